@@ -1,0 +1,26 @@
+#include "CodePointOrder.h"
+
+#include <algorithm>
+
+namespace {
+
+// Moves surrogates above the rest of the basic plane, which turns UTF-16 order into code point
+// order.
+char16_t codePointRank(QChar unit)
+{
+    const char16_t value = unit.unicode();
+    if (value >= 0xE000) {
+        return static_cast<char16_t>(value - 0x800);
+    }
+    if (value >= 0xD800) {
+        return static_cast<char16_t>(value + 0x2000);
+    }
+    return value;
+}
+
+} // namespace
+
+bool codePointLess(QStringView left, QStringView right)
+{
+    return std::ranges::lexicographical_compare(left, right, {}, codePointRank, codePointRank);
+}

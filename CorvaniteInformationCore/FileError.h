@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+/// Why a file operation failed, in the classes that a reader can act on.
+struct FileError
+{
+    enum class Reason {
+        PermissionDenied,
+        NoSpace,
+        ReadOnly,
+        /// Busy, a folder, a device, or anything else that is not an ordinary file.
+        NotARegularFile,
+        /// The path's folder is gone and cannot be made.
+        FolderMissing,
+        InputOutput,
+        Other
+    };
+
+    Reason reason;
+    /// The system's error number (errno), for the text of `Reason::Other`.
+    int systemError = 0;
+
+    static FileError fromSystemError(int systemError);
+
+    /// One calm Chinese sentence for the reader.
+    QString localizedDescription() const;
+
+    friend bool operator==(const FileError&, const FileError&) = default;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "CustomInformationSource.h"
+#include "InformationIntakeFailure.h"
+#include "NormalizedInformationIntake.h"
+
+#include <QList>
+#include <QString>
+
+#include <expected>
+
+/// What the reader hands in: a public https address or a sentence.
+namespace InformationIntake {
+
+/// In grapheme clusters, of the canonical form.
+inline constexpr qsizetype maximumInputLength = 500;
+inline constexpr qsizetype maximumCustomSources = 100;
+
+std::expected<NormalizedInformationIntake, InformationIntakeFailure>
+normalize(const QString& input);
+
+/// Whether a custom source has the intake's identity.
+bool contains(const NormalizedInformationIntake& intake,
+              const QList<CustomInformationSource>& customSources);
+
+} // namespace InformationIntake

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Why a hand-in is refused.
+enum class InformationIntakeFailure { Empty, TooLong, UnsupportedURL };

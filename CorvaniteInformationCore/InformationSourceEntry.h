@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/// A row of the registry of collection sources.
+struct InformationSourceEntry
+{
+    QString id;
+    QString name;
+    /// The type and language of the source, in Chinese.
+    QString kind;
+    /// The curators' one-line view of the source.
+    QString take;
+    /// The home page.
+    QString url;
+
+    friend bool operator==(const InformationSourceEntry&, const InformationSourceEntry&) = default;
+};

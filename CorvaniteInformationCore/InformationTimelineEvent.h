@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+/// One dated event in the history of an item.
+struct InformationTimelineEvent
+{
+    /// The day as it is shown.
+    QString dateLabel;
+    /// ISO 8601 date-time.
+    QString date;
+    QString summary;
+    QString source;
+
+    friend bool operator==(const InformationTimelineEvent&,
+                           const InformationTimelineEvent&) = default;
+};

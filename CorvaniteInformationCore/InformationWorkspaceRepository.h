@@ -1,0 +1,48 @@
+#pragma once
+
+#include "FileError.h"
+#include "InformationFileManager.h"
+#include "InformationRepositoryError.h"
+#include "InformationWorkspace.h"
+#include "InformationWorkspaceCoding.h"
+
+#include <QList>
+#include <QString>
+
+#include <expected>
+#include <variant>
+
+/// Keeps the workspace in one JSON file. The file's form is described in
+/// docs/formats/workspace.md.
+struct InformationWorkspaceRepository
+{
+    /// What keeps a stored workspace from being loaded; the file stays untouched.
+    using LoadError = std::variant<FileError, InformationWorkspaceCoding::DecodingError,
+                                   InformationRepositoryError>;
+
+    QString filePath;
+
+    /// The repository of the per-user data directory. Makes nothing.
+    static std::expected<InformationWorkspaceRepository, InformationRepositoryError>
+    live(const InformationFileManager& fileManager);
+
+    /// The stored workspace in its current version, or an empty one when there is no file. Older
+    /// versions are migrated over the compiled-in signals. Writes nothing.
+    std::expected<InformationWorkspace, LoadError>
+    load(const InformationFileManager& fileManager) const;
+
+    /// Replaces the file, making its folder where needed; on failure the file is as it was.
+    std::expected<void, FileError> save(const InformationWorkspace& workspace,
+                                        const InformationFileManager& fileManager) const;
+
+    friend bool operator==(const InformationWorkspaceRepository&,
+                           const InformationWorkspaceRepository&) = default;
+};
+
+/// A decoded workspace of any supported version in its current form.
+/// @param catalog the signals whose ids older versions may hold, unique by id
+std::expected<InformationWorkspace, InformationRepositoryError>
+migrated(InformationWorkspace workspace, const QList<InformationSignal>& catalog);
+
+/// The sentence for the reader.
+QString localizedDescription(const InformationWorkspaceRepository::LoadError& error);

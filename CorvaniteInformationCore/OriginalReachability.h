@@ -1,0 +1,4 @@
+#pragma once
+
+/// How steadily the site of an original can be reached from mainland China, best first.
+enum class OriginalReachability { Open, Spotty, Blocked };

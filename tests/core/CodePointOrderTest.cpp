@@ -1,0 +1,38 @@
+#include "CodePointOrder.h"
+
+#include <QTest>
+
+class CodePointOrderTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ordersByCodePoint_data()
+    {
+        QTest::addColumn<QString>("left");
+        QTest::addColumn<QString>("right");
+        QTest::addColumn<bool>("less");
+
+        QTest::newRow("equal") << u"a"_qs << u"a"_qs << false;
+        QTest::newRow("prefix") << u"a"_qs << u"ab"_qs << true;
+        QTest::newRow("empty") << QString() << u"a"_qs << true;
+        QTest::newRow("letters") << u"b"_qs << u"a"_qs << false;
+        QTest::newRow("upper before lower") << u"Z"_qs << u"a"_qs << true;
+        QTest::newRow("private use before emoji") << u"\uE000"_qs << u"\U0001F600"_qs << true;
+        QTest::newRow("emoji after last of basic plane")
+            << u"\U0001F600"_qs << u"\uFFFD"_qs << false;
+        QTest::newRow("within the upper planes") << u"\U0001F600"_qs << u"\U0001F601"_qs << true;
+    }
+
+    void ordersByCodePoint()
+    {
+        QFETCH(QString, left);
+        QFETCH(QString, right);
+        QFETCH(bool, less);
+
+        QCOMPARE(codePointLess(left, right), less);
+    }
+};
+
+QTEST_APPLESS_MAIN(CodePointOrderTest)
+#include "CodePointOrderTest.moc"
