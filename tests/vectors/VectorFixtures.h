@@ -1,0 +1,43 @@
+#pragma once
+
+#include "InformationSignal.h"
+#include "InformationWorkspace.h"
+#include "SelectionDay.h"
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
+
+#include <optional>
+
+/// The forms that cases share.
+namespace VectorFixtures {
+
+/// The bytes of a document given as "text", "base64" or "parts"; nothing for "missing".
+std::optional<QByteArray> document(const QJsonObject& doc);
+
+/// A signal in its short form, everything left out filled with defaults.
+InformationSignal shortSignal(const QJsonObject& shortForm);
+QList<InformationSignal> shortSignals(const QJsonValue& shortForms);
+
+SelectionDay selectionDay(const QJsonObject& day);
+QList<SelectionDay> selectionDays(const QJsonValue& days);
+QJsonArray toJson(const QList<SelectionDay>& days);
+
+/// A workspace in file form; a missing version is the current one.
+InformationWorkspace workspace(const QJsonObject& fileForm);
+QJsonObject toJson(const InformationWorkspace& workspace);
+
+QList<QString> strings(const QJsonValue& array);
+QJsonArray toJson(const QList<QString>& texts);
+QJsonArray ids(const QList<InformationSignal>& signals);
+
+template <typename T>
+QJsonValue orNull(const std::optional<T>& value)
+{
+    return value ? QJsonValue(*value) : QJsonValue(QJsonValue::Null);
+}
+
+} // namespace VectorFixtures

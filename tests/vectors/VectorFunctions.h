@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QHash>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QString>
+
+#include <functional>
+
+/// What a case's `fn` names: from the case's `in` to what it must equal `out`.
+using VectorFunction = std::function<QJsonValue(const QJsonObject& in)>;
+using VectorFunctions = QHash<QString, VectorFunction>;
