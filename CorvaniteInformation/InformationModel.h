@@ -6,6 +6,7 @@
 #include "InformationSignal.h"
 #include "InformationWorkspace.h"
 #include "InformationWorkspaceRepository.h"
+#include "NormalizedInformationIntake.h"
 #include "SelectionDay.h"
 #include "WeeklyDigest.h"
 
@@ -121,7 +122,7 @@ public:
     void removeKept(const InformationSignal& signal);
     void reduceSimilar(const InformationSignal& signal);
     void markSeen(const InformationSignal& signal);
-    /// The same for the signal with the id; an unknown id does nothing.
+    /// The same for the live or retired signal with the id; an unknown id does nothing.
     Q_INVOKABLE void toggleKeep(const QString& signalId);
     Q_INVOKABLE void removeKept(const QString& signalId);
     Q_INVOKABLE void reduceSimilar(const QString& signalId);
@@ -157,23 +158,25 @@ Q_SIGNALS:
 private:
     using Mutation = std::function<void(InformationWorkspace&)>;
 
-    /// Applies, saves, and on failure takes back. `receipt` is shown while saving and cleared on
-    /// failure; the outer nothing leaves the receipt as it is.
-    bool transact(const std::optional<std::optional<QString>>& receipt, const Mutation& mutation);
+    /// Applies, announces, saves; on failure takes back, clears the receipt and says why.
+    bool transact(const Mutation& mutation, const std::function<void()>& announce = [] {});
     bool transactUndoable(const QString& receipt, const Mutation& mutation);
 
     void setWorkspace(InformationWorkspace workspace);
     void setReceipt(std::optional<QString> receipt);
     void setErrorMessage(std::optional<QString> message);
     void setIntakeErrorMessage(std::optional<QString> message);
+    void setSelectedArchiveDay(std::optional<QString> date);
     void setUndoWorkspace(std::optional<InformationWorkspace> workspace);
     void clearUndo() { setUndoWorkspace(std::nullopt); }
     void dropCaches();
 
+    void assertMainThread() const;
     std::chrono::sys_seconds wholeSecondsNow() const;
+    /// The ids of the live signals that share the signal's follow target.
     QList<QString> threadIds(const InformationSignal& signal) const;
-    const InformationSignal* liveSignal(const QString& id) const;
-    std::optional<InformationSignal> signalMatching(const QString& identity) const;
+    /// The live signal that the normalised address belongs to.
+    const InformationSignal* signalMatching(const NormalizedInformationIntake& address) const;
     Mutation keepMutation(const InformationSignal& signal) const;
     Mutation removeKeptMutation(const InformationSignal& signal) const;
 
