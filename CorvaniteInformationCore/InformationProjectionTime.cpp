@@ -1,0 +1,166 @@
+#include "InformationProjection.h"
+
+#include <chrono>
+
+using namespace std::chrono;
+
+namespace {
+
+// "YYYY-MM-DDThh:mm:ss", of which the fields have been checked one by one but not the day against
+// its month.
+struct CivilTime
+{
+    int year;
+    int month;
+    int day;
+    int hour;
+    int minute;
+    int second;
+
+    double secondsSinceEpoch() const
+    {
+        const sys_days monthStart =
+            std::chrono::year{year} / static_cast<unsigned>(month) / std::chrono::day{1};
+        const sys_days date = monthStart + days{day - 1};
+        return static_cast<double>(date.time_since_epoch().count()) * 86400 + hour * 3600 +
+               minute * 60 + second;
+    }
+};
+
+constexpr qsizetype civilTimeLength = 19;
+
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+std::optional<int> decimalField(QStringView text)
+{
+    int value = 0;
+    for (const QChar character : text) {
+        if (!isDigit(character)) {
+            return std::nullopt;
+        }
+        value = value * 10 + (character.unicode() - u'0');
+    }
+    return value;
+}
+
+std::optional<int> decimalField(QStringView text, int least, int most)
+{
+    const std::optional<int> value = decimalField(text);
+    return value && *value >= least && *value <= most ? value : std::nullopt;
+}
+
+std::optional<CivilTime> civilTime(QStringView text)
+{
+    if (text.size() != civilTimeLength || text[4] != u'-' || text[7] != u'-' ||
+        (text[10] != u'T' && text[10] != u't') || text[13] != u':' || text[16] != u':') {
+        return std::nullopt;
+    }
+    const auto year = decimalField(text.first(4));
+    const auto month = decimalField(text.sliced(5, 2), 1, 12);
+    const auto day = decimalField(text.sliced(8, 2), 1, 31);
+    const auto hour = decimalField(text.sliced(11, 2), 0, 23);
+    const auto minute = decimalField(text.sliced(14, 2), 0, 59);
+    const auto second = decimalField(text.sliced(17, 2), 0, 60);
+    if (!year || !month || !day || !hour || !minute || !second) {
+        return std::nullopt;
+    }
+    return CivilTime{*year, *month, *day, *hour, *minute, *second};
+}
+
+// The value of "" (none) or "." and at least one digit.
+std::optional<double> fraction(QStringView text)
+{
+    if (text.isEmpty()) {
+        return 0;
+    }
+    if (text.size() == 1 || text.front() != u'.') {
+        return std::nullopt;
+    }
+    double value = 0;
+    double scale = 0.1;
+    for (const QChar character : text.sliced(1)) {
+        if (!isDigit(character)) {
+            return std::nullopt;
+        }
+        value += (character.unicode() - u'0') * scale;
+        scale /= 10;
+    }
+    return value;
+}
+
+// The seconds that "+hh:mm" or "-hh:mm" lies ahead of UTC.
+std::optional<int> offsetSeconds(QStringView text)
+{
+    if (text.size() != 6 || (text[0] != u'+' && text[0] != u'-') || text[3] != u':') {
+        return std::nullopt;
+    }
+    const auto hours = decimalField(text.sliced(1, 2), 0, 23);
+    const auto minutes = decimalField(text.sliced(4, 2), 0, 59);
+    if (!hours || !minutes) {
+        return std::nullopt;
+    }
+    const int seconds = *hours * 3600 + *minutes * 60;
+    return text[0] == u'-' ? -seconds : seconds;
+}
+
+// The same with an offset in place of "Z". Here a day has to be one of its month.
+std::optional<double> offsetISOSeconds(QStringView text)
+{
+    constexpr qsizetype offsetLength = 6;
+    if (text.size() < civilTimeLength + offsetLength || text[10] != u'T') {
+        return std::nullopt;
+    }
+    const auto civil = civilTime(text.first(civilTimeLength));
+    const auto fractional = fraction(text.sliced(civilTimeLength).chopped(offsetLength));
+    const auto offset = offsetSeconds(text.last(offsetLength));
+    if (!civil || !fractional || !offset) {
+        return std::nullopt;
+    }
+    const year_month_day date{year{civil->year}, month(static_cast<unsigned>(civil->month)),
+                              day(static_cast<unsigned>(civil->day))};
+    if (!date.ok()) {
+        return std::nullopt;
+    }
+    return civil->secondsSinceEpoch() + *fractional - *offset;
+}
+
+} // namespace
+
+std::optional<double> InformationProjection::fastISOSeconds(QStringView text)
+{
+    if (text.size() < civilTimeLength + 1 || text.back() != u'Z') {
+        return std::nullopt;
+    }
+    const auto civil = civilTime(text.first(civilTimeLength));
+    const auto fractional = fraction(text.sliced(civilTimeLength).chopped(1));
+    if (!civil || !fractional) {
+        return std::nullopt;
+    }
+    return civil->secondsSinceEpoch() + *fractional;
+}
+
+std::optional<double> InformationProjection::parseISODate(QStringView text)
+{
+    const std::optional<double> seconds = fastISOSeconds(text);
+    return seconds ? seconds : offsetISOSeconds(text);
+}
+
+std::optional<qint64> InformationProjection::isoMilliseconds(QStringView text)
+{
+    const std::optional<double> seconds = parseISODate(text);
+    if (!seconds) {
+        return std::nullopt;
+    }
+    return static_cast<qint64>(*seconds * 1000);
+}
+
+QString InformationProjection::beijingDay(qint64 milliseconds)
+{
+    const sys_time<std::chrono::milliseconds> instant{std::chrono::milliseconds{milliseconds}};
+    const year_month_day date{floor<days>(instant + hours{8})};
+    return QString::asprintf("%04d-%02u-%02u", int{date.year()}, unsigned{date.month()},
+                             unsigned{date.day()});
+}

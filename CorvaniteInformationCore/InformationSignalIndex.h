@@ -1,0 +1,11 @@
+#pragma once
+
+#include "InformationSignal.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+/// The signals by id. A repeated id stops the program: whatever fills a list of signals keeps its
+/// ids unique.
+QHash<QString, InformationSignal> indexById(const QList<InformationSignal>& signals);

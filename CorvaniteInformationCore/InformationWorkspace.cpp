@@ -1,0 +1,75 @@
+#include "InformationWorkspace.h"
+
+#include <QSet>
+
+#include <utility>
+
+namespace {
+
+template <typename Value>
+void keepFirstOccurrences(QList<Value>& list)
+{
+    QSet<Value> met;
+    met.reserve(list.size());
+    QList<Value> kept;
+    kept.reserve(list.size());
+    for (const Value& value : std::as_const(list)) {
+        if (!met.contains(value)) {
+            met.insert(value);
+            kept.append(value);
+        }
+    }
+    list = kept;
+}
+
+void keepLatest(QList<QString>& seenTargets)
+{
+    if (seenTargets.size() > InformationWorkspace::maximumSeenTargets) {
+        seenTargets.remove(0, seenTargets.size() - InformationWorkspace::maximumSeenTargets);
+    }
+}
+
+} // namespace
+
+void InformationWorkspace::normalize()
+{
+    keepFirstOccurrences(following);
+    keepFirstOccurrences(hidden);
+    keepFirstOccurrences(reducedLanes);
+    keepFirstOccurrences(seenTargets);
+    keepLatest(seenTargets);
+}
+
+bool InformationWorkspace::keeps(const InformationSignal& signal) const
+{
+    return saved.contains(signal.id) && following.contains(signal.followTarget.id);
+}
+
+void InformationWorkspace::setKept(bool keep, const InformationSignal& signal,
+                                   std::chrono::sys_seconds at)
+{
+    const QString& target = signal.followTarget.id;
+    if (!keep) {
+        saved.erase(signal.id);
+        following.removeAll(target);
+        return;
+    }
+    saved.try_emplace(signal.id,
+                      SavedInformation{.savedAt = at, .saveReason = signal.why, .note = {}});
+    if (!following.contains(target)) {
+        following.append(target);
+    }
+}
+
+bool InformationWorkspace::hasSeen(const InformationSignal& signal) const
+{
+    return seenTargets.contains(signal.followTarget.id);
+}
+
+void InformationWorkspace::markSeen(const InformationSignal& signal)
+{
+    if (!hasSeen(signal)) {
+        seenTargets.append(signal.followTarget.id);
+        keepLatest(seenTargets);
+    }
+}
