@@ -1,0 +1,118 @@
+#include "WeeklyDigest.h"
+
+#include "CodePointOrder.h"
+#include "DecimalNumber.h"
+#include "InformationProjection.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <ranges>
+
+using namespace std::chrono;
+
+namespace {
+
+std::optional<unsigned> dayPiece(QStringView piece, qsizetype length)
+{
+    const auto value = piece.size() == length ? decimalNumber(piece) : std::nullopt;
+    return value ? std::optional(static_cast<unsigned>(*value)) : std::nullopt;
+}
+
+sys_days mondayOf(sys_days date)
+{
+    return date - days{WeeklyDigest::isoWeekday(date)};
+}
+
+sys_days sundayOf(sys_days date)
+{
+    return mondayOf(date) + days{6};
+}
+
+// A week belongs to the year of its Thursday, and week 1 holds the year's first Thursday.
+QString weekId(sys_days date)
+{
+    const sys_days thursday = mondayOf(date) + days{3};
+    const year weekYear = year_month_day{thursday}.year();
+    const auto week = (thursday - sys_days{weekYear / January / 1}) / days{7} + 1;
+    return QString::asprintf("%04d-W%02d", int{weekYear}, static_cast<int>(week));
+}
+
+} // namespace
+
+QList<WeeklyDigest::Week> WeeklyDigest::weeks(const QList<SelectionDay>& days)
+{
+    QList<SelectionDay> oldestFirst = days;
+    std::ranges::stable_sort(oldestFirst, codePointLess, &SelectionDay::date);
+
+    std::map<QString, Week> weeksById;
+    for (const SelectionDay& day : oldestFirst) {
+        const auto date = utcMidnight(day.date);
+        if (!date) {
+            continue;
+        }
+        const QString id = ::weekId(*date);
+        const auto [entry, isNew] = weeksById.try_emplace(
+            id, Week{id, dayString(mondayOf(*date)), dayString(sundayOf(*date)), {}});
+        entry->second.days.append(day);
+    }
+
+    QList<Week> newestFirst;
+    for (const Week& week : weeksById | std::views::values | std::views::reverse) {
+        newestFirst.append(week);
+    }
+    return newestFirst;
+}
+
+QString WeeklyDigest::beijingToday(double now)
+{
+    return InformationProjection::beijingDay(static_cast<qint64>(std::floor(now * 1000)));
+}
+
+std::optional<QString> WeeklyDigest::beijingWeekOfDay(QStringView day)
+{
+    const auto date = utcMidnight(day);
+    return date ? std::optional(::weekId(*date)) : std::nullopt;
+}
+
+std::optional<QString> WeeklyDigest::mondayOfWeek(QStringView day)
+{
+    const auto date = utcMidnight(day);
+    return date ? std::optional(dayString(mondayOf(*date))) : std::nullopt;
+}
+
+std::optional<QString> WeeklyDigest::sundayOfWeek(QStringView day)
+{
+    const auto date = utcMidnight(day);
+    return date ? std::optional(dayString(sundayOf(*date))) : std::nullopt;
+}
+
+std::optional<sys_days> WeeklyDigest::utcMidnight(QStringView day)
+{
+    const QList<QStringView> pieces = day.split(u'-', Qt::SkipEmptyParts);
+    if (pieces.size() != 3) {
+        return std::nullopt;
+    }
+    const auto year = dayPiece(pieces[0], 4);
+    const auto month = dayPiece(pieces[1], 2);
+    const auto dayOfMonth = dayPiece(pieces[2], 2);
+    if (!year || !month || !dayOfMonth || *month < 1 || *month > 12 || *dayOfMonth < 1 ||
+        *dayOfMonth > 31) {
+        return std::nullopt;
+    }
+    const sys_days monthStart =
+        std::chrono::year{static_cast<int>(*year)} / std::chrono::month{*month} / 1;
+    return monthStart + days{*dayOfMonth - 1};
+}
+
+int WeeklyDigest::isoWeekday(sys_days day)
+{
+    return (weekday{day} - Monday).count();
+}
+
+QString WeeklyDigest::dayString(sys_days day)
+{
+    const year_month_day date{day};
+    return QString::asprintf("%04d-%02u-%02u", int{date.year()}, unsigned{date.month()},
+                             unsigned{date.day()});
+}
