@@ -1,0 +1,19 @@
+#!/usr/bin/python3
+"""Starts the program on a virtual screen and writes its first screen: first_screen.py PROGRAM PNG"""
+
+import sys
+from pathlib import Path
+
+from world import World
+
+
+def main() -> None:
+    program_file, picture = (Path(argument).resolve() for argument in sys.argv[1:])
+    with World() as world:
+        program = world.start(program_file)
+        program.save_picture(picture)
+        program.close()
+
+
+if __name__ == "__main__":
+    main()

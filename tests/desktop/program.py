@@ -1,0 +1,138 @@
+"""A started program: its process, its window and what a screen reader sees of it."""
+
+from collections.abc import Callable, Mapping
+from pathlib import Path
+
+from accessibility import AccessibilityBus, Element
+from commands import CommandFailed, answer_of
+from own_process import OwnProcess
+from polling import PATIENCE, wait_until
+
+WINDOW_TITLE = "Corvanite Information"
+
+PAINTED_BYTE_VALUES = 32
+"""A window with text in it shows at least so many different values of a colour part."""
+
+
+class Program:
+    def __init__(
+        self, process: OwnProcess, environment: Mapping[str, str], accessibility: AccessibilityBus
+    ):
+        self.process = process
+        self._environment = environment
+        self._accessibility = accessibility
+
+    # Process
+
+    def messages(self) -> list[str]:
+        """What the program has printed."""
+        return self.process.output.read_text(errors="replace").splitlines()
+
+    def wait_for_exit(self) -> int:
+        """The exit status."""
+        return self.process.wait(PATIENCE)
+
+    def close(self) -> int:
+        """Closes the window as the reader does from the keyboard; the exit status."""
+        wait_until(self.is_active, "the window is active")
+        self.press_keys("alt+F4")
+        return self.wait_for_exit()
+
+    # Window
+
+    def window(self) -> str:
+        """The number of the window, once it is mapped."""
+        return wait_until(self._visible_window, "the window is mapped")
+
+    def is_active(self) -> bool:
+        try:
+            return self._xdotool("getactivewindow") == self._visible_window()
+        except CommandFailed:
+            return False
+
+    def minimise(self) -> None:
+        self._xdotool("windowminimize", self.window())
+        wait_until(lambda: not self._visible_window(), "the window is minimised")
+
+    def resize(self, width: int, height: int) -> None:
+        window = self.window()
+        self._xdotool("windowmove", window, "0", "0")
+        self._xdotool("windowsize", window, str(width), str(height))
+        wait_until(lambda: self.size() == (width, height), f"the window is {width} x {height}")
+
+    def size(self) -> tuple[int, int]:
+        geometry = self._xdotool("getwindowgeometry", "--shell", self.window())
+        values = dict(line.split("=") for line in geometry.splitlines())
+        return int(values["WIDTH"]), int(values["HEIGHT"])
+
+    def press_keys(self, *keys: str) -> None:
+        """Presses the keys one after the other, written as xdotool names them ("ctrl+1")."""
+        self._xdotool("key", "--clearmodifiers", *keys)
+
+    def click(self, element: Element) -> None:
+        x, y = element.extents().center
+        self._xdotool("mousemove", str(x), str(y), "click", "1")
+
+    def save_picture(self, file: Path) -> None:
+        """Writes the window as PNG once it is painted and stands still."""
+        self.wait_until_still()
+        answer_of(["import", "-window", self.window(), f"png:{file}"], self._environment)
+
+    def wait_until_still(self) -> None:
+        previous = b""
+
+        def is_still() -> bool:
+            nonlocal previous
+            current = self._pixels()
+            still = current == previous and len(set(current)) >= PAINTED_BYTE_VALUES
+            previous = current
+            return still
+
+        wait_until(is_still, "the window is painted and stands still")
+
+    # Accessibility
+
+    def elements(self) -> list[Element]:
+        """The tree as it is now, parents before children."""
+        return self._accessibility.elements_of(self.process.pid)
+
+    def find_all(self, matches: Callable[[Element], bool]) -> list[Element]:
+        """The showing elements that match, in the tree's order."""
+        return [e for e in self.elements() if e.is_showing and matches(e)]
+
+    def wait_for(self, name: str, role: str | None = None) -> Element:
+        """The first showing element of that name, and role if one is given."""
+
+        def matches(element: Element) -> bool:
+            return element.name == name and role in (None, element.role)
+
+        what = f"{role or 'an element'} named “{name}”"
+        return wait_until(lambda: self.find_all(matches), what)[0]
+
+    def wait_for_beginning(self, beginning: str) -> Element:
+        """The first showing element whose name begins so."""
+        return wait_until(
+            lambda: self.find_all(lambda e: e.name.startswith(beginning)),
+            f"an element's name begins with “{beginning}”",
+        )[0]
+
+    def wait_until_gone(self, name: str) -> None:
+        """Waits until no showing element has that name."""
+        wait_until(
+            lambda: self.elements() and not self.find_all(lambda e: e.name == name),
+            f"nothing is named “{name}”",
+        )
+
+    def _visible_window(self) -> str:
+        try:
+            search = ("search", "--onlyvisible", "--all", "--pid", str(self.process.pid))
+            return self._xdotool(*search, "--name", f"^{WINDOW_TITLE}$").split("\n")[0]
+        except CommandFailed:
+            return ""
+
+    def _pixels(self) -> bytes:
+        command = ["import", "-window", self.window(), "-depth", "8", "rgb:-"]
+        return answer_of(command, self._environment)
+
+    def _xdotool(self, *arguments: str) -> str:
+        return answer_of(["xdotool", *arguments], self._environment).decode().strip()

@@ -1,0 +1,209 @@
+"""A desktop of its own for one test: screen, buses, window manager, home and nothing else."""
+
+import os
+import select
+import shutil
+import stat
+import sys
+import tempfile
+from pathlib import Path
+
+from gi.repository import Gio, GLib
+
+from accessibility import AccessibilityBus
+from commands import answer_of, succeeds
+from own_process import OwnProcess
+from polling import PATIENCE, wait_until
+from program import Program
+
+HERE = Path(__file__).resolve().parent
+
+BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC
+ "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:path={socket}</listen>
+  <auth>EXTERNAL</auth>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+"""
+
+BROWSER = """#!/bin/sh
+printf '%s\\n' "$1" >>'{opened}'
+"""
+
+
+class World:
+    """Use it in a `with`; on leaving it stops what it started and removes its folders.
+
+    `scheme`, "light" or "dark", is what the desktop's appearance portal says; without one there
+    is no portal.
+    """
+
+    def __init__(self, scheme: str | None = None, screen: tuple[int, int] = (1920, 1200)):
+        self._scheme = scheme
+        self._screen = screen
+        self._processes: list[OwnProcess] = []
+        self._programs: list[Program] = []
+
+    def __enter__(self) -> "World":
+        self.folder = Path(tempfile.mkdtemp(prefix="desktop-"))
+        self.home = self.folder / "home"
+        self.data_home = self.home / ".local/share"
+        self._opened = self.folder / "opened"
+        try:
+            self._lay_out_folders()
+            self._start_screen()
+            self._start_session_bus()
+            self._start_accessibility()
+            self._start_window_manager()
+            if self._scheme:
+                self._start_appearance_portal(self._scheme)
+        except BaseException:
+            self._end()
+            raise
+        return self
+
+    def __exit__(self, *_) -> None:
+        self._end()
+
+    def start(self, program: Path, data_home: Path | None = None) -> Program:
+        """Starts the program; with `data_home` it keeps its data there."""
+        changed = {"XDG_DATA_HOME": str(data_home)} if data_home else {}
+        process = self._run(program.name, [str(program)], environment=self.environment | changed)
+        started = Program(process, self.environment, self.accessibility)
+        self._programs.append(started)
+        return started
+
+    def programs(self) -> list[Program]:
+        """Every program started here, in order."""
+        return list(self._programs)
+
+    def copy(self, text: str) -> None:
+        """Puts the text on the clipboard."""
+        source = self.folder / "copied"
+        source.write_text(text)
+        clipboard = ["xclip", "-selection", "clipboard"]
+        self._run("clipboard", [*clipboard, "-quiet", str(source)])
+        wait_until(
+            lambda: succeeds([*clipboard, "-out"], self.environment)
+            and answer_of([*clipboard, "-out"], self.environment).decode() == text,
+            "the text is on the clipboard",
+        )
+
+    def opened_addresses(self) -> list[str]:
+        """What was handed to the browser, in order."""
+        return self._opened.read_text().splitlines() if self._opened.exists() else []
+
+    def _lay_out_folders(self) -> None:
+        commands = self.folder / "commands"
+        runtime = self.folder / "run"
+        for folder in (self.data_home, commands, runtime):
+            folder.mkdir(parents=True)
+        runtime.chmod(0o700)
+        browser = commands / "xdg-open"
+        browser.write_text(BROWSER.format(opened=self._opened))
+        browser.chmod(browser.stat().st_mode | stat.S_IXUSR)
+        self.environment = {
+            "HOME": str(self.home),
+            "LANG": "C.UTF-8",
+            "PATH": f"{commands}:/usr/bin:/bin",
+            "TMPDIR": str(self.folder),
+            "XDG_CACHE_HOME": str(self.home / ".cache"),
+            "XDG_CONFIG_HOME": str(self.home / ".config"),
+            "XDG_DATA_HOME": str(self.data_home),
+            "XDG_RUNTIME_DIR": str(runtime),
+            "GSETTINGS_BACKEND": "memory",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "QT_QPA_PLATFORM": "xcb",
+        }
+
+    def _run(self, name: str, command: list[str], environment=None, descriptors=()) -> OwnProcess:
+        number = len(self._processes)
+        process = OwnProcess(
+            command,
+            environment or self.environment,
+            self.folder / f"{number:02}-{name}.txt",
+            descriptors,
+        )
+        self._processes.append(process)
+        return process
+
+    def _start_screen(self) -> None:
+        width, height = self._screen
+        reading, writing = os.pipe()
+        with os.fdopen(reading) as number:
+            geometry = f"{width}x{height}x24"
+            command = ["Xvfb", "-displayfd", str(writing), "-screen", "0", geometry]
+            self._run("screen", [*command, "-nolisten", "tcp", "-noreset"], descriptors=[writing])
+            os.close(writing)
+            if not select.select([number], [], [], PATIENCE)[0]:
+                raise TimeoutError("the screen does not start")
+            self.environment["DISPLAY"] = f":{number.readline().strip()}"
+
+    def _start_session_bus(self) -> None:
+        socket = self.folder / "bus"
+        configuration = self.folder / "bus.conf"
+        configuration.write_text(BUS_CONFIGURATION.format(socket=socket))
+        self._run("bus", ["dbus-daemon", f"--config-file={configuration}", "--nofork"])
+        wait_until(socket.exists, "the session bus")
+        address = f"unix:path={socket}"
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+        flags = Gio.DBusConnectionFlags
+        self._session_bus = Gio.DBusConnection.new_for_address_sync(
+            address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None
+        )
+
+    def _start_accessibility(self) -> None:
+        self._run("accessibility", ["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
+        self._wait_for_service("org.a11y.Bus")
+        reply = self._session_bus.call_sync(
+            "org.a11y.Bus",
+            "/org/a11y/bus",
+            "org.a11y.Bus",
+            "GetAddress",
+            None,
+            None,
+            Gio.DBusCallFlags.NONE,
+            int(PATIENCE * 1000),
+            None,
+        )
+        self.accessibility = AccessibilityBus(reply.unpack()[0])
+
+    def _start_window_manager(self) -> None:
+        self._run("window-manager", ["openbox", "--sm-disable"])
+        # There is no number of desktops until a window manager has announced itself.
+        question = ["xdotool", "get_num_desktops"]
+        wait_until(lambda: succeeds(question, self.environment), "the window manager")
+
+
+    def _start_appearance_portal(self, scheme: str) -> None:
+        self._run("portal", [sys.executable, str(HERE / "appearance_portal.py"), scheme])
+        self._wait_for_service("org.freedesktop.portal.Desktop")
+
+    def _wait_for_service(self, name: str) -> None:
+        def has_owner() -> bool:
+            reply = self._session_bus.call_sync(
+                "org.freedesktop.DBus",
+                "/org/freedesktop/DBus",
+                "org.freedesktop.DBus",
+                "NameHasOwner",
+                GLib.Variant("(s)", (name,)),
+                None,
+                Gio.DBusCallFlags.NONE,
+                int(PATIENCE * 1000),
+                None,
+            )
+            return reply.unpack()[0]
+
+        wait_until(has_owner, f"the service {name}")
+
+    def _end(self) -> None:
+        for process in reversed(self._processes):
+            process.stop()
+        shutil.rmtree(self.folder)
