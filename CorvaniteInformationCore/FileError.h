@@ -6,7 +6,9 @@
 struct FileError
 {
     enum class Reason {
+        /// Not allowed to write.
         PermissionDenied,
+        ReadPermissionDenied,
         NoSpace,
         ReadOnly,
         /// Busy, a folder, a device, or anything else that is not an ordinary file.
@@ -21,6 +23,7 @@ struct FileError
     /// The system's error number (errno), for the text of `Reason::Other`.
     int systemError = 0;
 
+    /// The error of an operation that writes.
     static FileError fromSystemError(int systemError);
 
     /// One calm Chinese sentence for the reader.

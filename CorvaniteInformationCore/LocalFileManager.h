@@ -8,6 +8,9 @@
 class LocalFileManager final : public InformationFileManager
 {
 public:
+    /// A longer file is none of ours and is not read.
+    static constexpr qsizetype maximumFileBytes = 256 * 1024 * 1024;
+
     /// @param applicationSupportDirectory what `applicationSupportDirectory()` answers
     explicit LocalFileManager(std::optional<QString> applicationSupportDirectory);
 
@@ -18,6 +21,7 @@ public:
     applicationSupportDirectory(const QProcessEnvironment& environment);
 
     std::optional<QString> applicationSupportDirectory() const override;
+    /// Only ordinary files, at most `maximumFileBytes` long; never waits for another program.
     std::expected<std::optional<QByteArray>, FileError>
     readFile(const QString& path) const override;
     std::expected<void, FileError> createDirectory(const QString& path) const override;

@@ -1,0 +1,220 @@
+#include "AtomicFile.h"
+
+#include "FileDescriptor.h"
+
+#include <QByteArrayView>
+#include <QFile>
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <limits.h>
+#include <memory>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr QByteArrayView temporaryPrefix(".corvanite-");
+constexpr QByteArrayView temporarySuffix(".tmp");
+constexpr qsizetype temporaryDigits = 16;
+
+constexpr int maximumLinks = 40;
+constexpr int maximumNameAttempts = 16;
+
+std::unexpected<FileError> systemFailure()
+{
+    return std::unexpected(FileError::fromSystemError(errno));
+}
+
+QByteArray temporaryName()
+{
+    const QByteArray digits = QByteArray::number(QRandomGenerator::system()->generate64(), 16);
+    return temporaryPrefix.toByteArray() + digits.rightJustified(temporaryDigits, '0') +
+           temporarySuffix.toByteArray();
+}
+
+bool isTemporaryName(QByteArrayView name)
+{
+    if (name.size() != temporaryPrefix.size() + temporaryDigits + temporarySuffix.size() ||
+        !name.startsWith(temporaryPrefix) || !name.endsWith(temporarySuffix)) {
+        return false;
+    }
+    return std::ranges::all_of(name.sliced(temporaryPrefix.size(), temporaryDigits), [](char c) {
+        return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f');
+    });
+}
+
+// A path cut at its last slash.
+struct Location
+{
+    QByteArray folder;
+    QByteArray name;
+
+    explicit Location(const QByteArray& path)
+    {
+        const qsizetype slash = path.lastIndexOf('/');
+        folder = slash < 0 ? QByteArray(".") : path.first(std::max<qsizetype>(slash, 1));
+        name = path.sliced(slash + 1);
+    }
+};
+
+// Where the bytes belong: the path itself, or what it links to in the end. A file that is there is
+// an ordinary one.
+std::expected<Location, FileError> replacedLocation(QByteArray path)
+{
+    for (int links = 0; links < maximumLinks; ++links) {
+        Location location(path);
+        struct stat status = {};
+        if (::lstat(path.constData(), &status) != 0) {
+            if (errno == ENOENT) {
+                return location;
+            }
+            return systemFailure();
+        }
+        if (S_ISREG(status.st_mode)) {
+            return location;
+        }
+        if (!S_ISLNK(status.st_mode)) {
+            return std::unexpected(FileError{FileError::Reason::NotARegularFile});
+        }
+        QByteArray target(PATH_MAX, Qt::Uninitialized);
+        const ssize_t length =
+            ::readlink(path.constData(), target.data(), static_cast<size_t>(target.size()));
+        if (length < 0) {
+            return systemFailure();
+        }
+        target.truncate(length);
+        path = target.startsWith('/') ? target : location.folder + '/' + target;
+    }
+    return std::unexpected(FileError::fromSystemError(ELOOP));
+}
+
+bool writeAll(int descriptor, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const ssize_t written =
+            ::write(descriptor, bytes.data(), static_cast<size_t>(bytes.size()));
+        if (written > 0) {
+            bytes = bytes.sliced(written);
+        } else if (written == 0) {
+            errno = EIO;
+            return false;
+        } else if (errno != EINTR) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool sync(int descriptor)
+{
+    int result = 0;
+    do {
+        result = ::fsync(descriptor);
+    } while (result != 0 && errno == EINTR);
+    return result == 0;
+}
+
+// A descriptor is gone after close() even when a signal interrupted it.
+bool closed(int descriptor)
+{
+    return ::close(descriptor) == 0 || errno == EINTR;
+}
+
+// A new file that removes itself unless it takes another's place.
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(int folder) : m_folder(folder) {}
+    ~TemporaryFile()
+    {
+        if (!m_name.isEmpty()) {
+            ::unlinkat(m_folder, m_name.constData(), 0);
+        }
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    std::expected<void, FileError> store(QByteArrayView bytes)
+    {
+        FileDescriptor file(create());
+        if (!file.isOpen() || !writeAll(file.get(), bytes) || !sync(file.get()) ||
+            !closed(file.release())) {
+            return systemFailure();
+        }
+        return {};
+    }
+
+    std::expected<void, FileError> takePlaceOf(const QByteArray& name)
+    {
+        if (::renameat(m_folder, m_name.constData(), m_folder, name.constData()) != 0) {
+            return systemFailure();
+        }
+        m_name.clear();
+        return {};
+    }
+
+private:
+    int create()
+    {
+        for (int attempt = 0; attempt < maximumNameAttempts; ++attempt) {
+            const QByteArray name = temporaryName();
+            const int descriptor =
+                ::openat(m_folder, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+            if (descriptor >= 0) {
+                m_name = name;
+                return descriptor;
+            }
+            if (errno != EEXIST) {
+                return -1;
+            }
+        }
+        return -1;
+    }
+
+    int m_folder;
+    QByteArray m_name;
+};
+
+} // namespace
+
+std::expected<void, FileError> AtomicFile::replace(const QString& path, const QByteArray& bytes)
+{
+    const auto location = replacedLocation(QFile::encodeName(path));
+    if (!location) {
+        return std::unexpected(location.error());
+    }
+    const FileDescriptor folder(
+        ::open(location->folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isOpen()) {
+        return systemFailure();
+    }
+    TemporaryFile file(folder.get());
+    if (const auto stored = file.store(bytes); !stored) {
+        return stored;
+    }
+    if (const auto replaced = file.takePlaceOf(location->name); !replaced) {
+        return replaced;
+    }
+    // The new file is in place: a save that failed now would contradict the disk. The next one
+    // syncs the folder again.
+    sync(folder.get());
+    return {};
+}
+
+void AtomicFile::removeLeftovers(const QString& folder)
+{
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(QFile::encodeName(folder)),
+                                                      ::closedir);
+    if (!entries) {
+        return;
+    }
+    while (const dirent* entry = ::readdir(entries.get())) {
+        if (isTemporaryName(entry->d_name)) {
+            ::unlinkat(::dirfd(entries.get()), entry->d_name, 0);
+        }
+    }
+}

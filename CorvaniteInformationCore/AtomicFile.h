@@ -1,0 +1,23 @@
+#pragma once
+
+#include "FileError.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <expected>
+
+/// Files that are replaced whole or not at all. Why each step is taken:
+/// docs/decisions/replacing-files.md.
+namespace AtomicFile {
+
+/// Replaces or makes the file (0600) in its folder, which has to exist. Every reader, and every
+/// later start, sees the old bytes or the new ones whole; on failure the old file is as it was and
+/// nothing of the new one remains. A symbolic link stays, its target is replaced or made.
+std::expected<void, FileError> replace(const QString& path, const QByteArray& bytes);
+
+/// Removes the temporary files that a killed `replace` left in the folder. Nobody may be replacing
+/// a file there meanwhile.
+void removeLeftovers(const QString& folder);
+
+} // namespace AtomicFile
