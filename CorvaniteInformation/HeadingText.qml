@@ -1,0 +1,9 @@
+import QtQuick
+import CorvaniteInformation
+
+/// A text that a screen reader lists among the headings.
+AppText {
+    textStyle: InformationTheme.title2
+
+    Accessible.role: Accessible.Heading
+}

@@ -1,0 +1,77 @@
+#include "SignalStrataView.h"
+
+#include "SignalStrata.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+constexpr double groundRadius = 9;
+constexpr double bandRadius = 1.5;
+constexpr double groundOpacity = 0.06;
+
+QColor accentColor(InformationLane lane, double opacity)
+{
+    const auto [red, green, blue] = accent(lane);
+    return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green),
+                            static_cast<float>(blue), static_cast<float>(opacity));
+}
+
+QPainterPath roundedPath(const QRectF& rectangle, double radius)
+{
+    QPainterPath path;
+    path.addRoundedRect(rectangle, radius, radius);
+    return path;
+}
+
+} // namespace
+
+SignalStrataView::SignalStrataView(QQuickItem* parent) : QQuickPaintedItem(parent)
+{
+    setAntialiasing(true);
+}
+
+void SignalStrataView::setSignalID(const QString& signalID)
+{
+    if (m_signalID == signalID) {
+        return;
+    }
+    m_signalID = signalID;
+    update();
+    Q_EMIT signalIDChanged();
+}
+
+void SignalStrataView::setLane(InformationLane lane)
+{
+    if (m_lane == lane) {
+        return;
+    }
+    m_lane = lane;
+    update();
+    Q_EMIT laneChanged();
+}
+
+void SignalStrataView::setSide(qreal side)
+{
+    if (implicitWidth() == side) {
+        return;
+    }
+    setImplicitSize(side, side);
+    Q_EMIT sideChanged();
+}
+
+// The bands are cut to the ground by geometry: a painter's clip has jagged edges.
+void SignalStrataView::paint(QPainter* painter)
+{
+    const double scale = width() / SignalStrata::side;
+    const auto ground = roundedPath(boundingRect(), groundRadius * scale);
+    painter->fillPath(ground, accentColor(m_lane, groundOpacity));
+
+    for (const auto& band : SignalStrata::bands(m_signalID)) {
+        const QRectF rectangle(band.x * scale, band.y * scale, band.width * scale,
+                               band.height * scale);
+        painter->fillPath(roundedPath(rectangle, bandRadius * scale).intersected(ground),
+                          accentColor(m_lane, band.opacity));
+    }
+}

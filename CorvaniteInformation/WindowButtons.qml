@@ -1,0 +1,45 @@
+import QtQuick
+import QtQuick.Window
+import CorvaniteInformation
+
+/// Minimise, maximise and close, for a window without a native title bar.
+Row {
+    id: buttons
+
+    required property Window window
+
+    readonly property bool maximized: window.visibility === Window.Maximized
+
+    spacing: 8
+
+    function toggleMaximized() {
+        if (maximized)
+            window.showNormal();
+        else
+            window.showMaximized();
+    }
+
+    IconButton {
+        side: 28
+        restTint: InformationTheme.ink3
+        iconPath: IconPaths.windowMinimize
+        text: "最小化"
+        onClicked: buttons.window.showMinimized()
+    }
+
+    IconButton {
+        side: 28
+        restTint: InformationTheme.ink3
+        iconPath: buttons.maximized ? IconPaths.windowRestore : IconPaths.windowMaximize
+        text: buttons.maximized ? "还原" : "最大化"
+        onClicked: buttons.toggleMaximized()
+    }
+
+    IconButton {
+        side: 28
+        restTint: InformationTheme.ink3
+        iconPath: IconPaths.xMark
+        text: "关闭窗口"
+        onClicked: buttons.window.close()
+    }
+}

@@ -1,0 +1,83 @@
+import QtQuick
+import QtQuick.Window
+import CorvaniteInformation
+
+/// The top of the window, which also moves it: brand, surface switcher, actions, window buttons.
+/// Below 1040 the switcher has a row of its own.
+Rectangle {
+    id: header
+
+    required property Window window
+    property alias surfaces: switcher.surfaces
+    required property int surface
+
+    signal surfaceChosen(int surface)
+
+    readonly property bool wide: width >= 1040
+    readonly property bool hasSwitcher: switcher.surfaces.length > 1
+    readonly property int sideMargin: wide ? 24 : 20
+    readonly property real freeLeft: brand.x + brand.width
+    readonly property real freeWidth: actions.x - freeLeft
+
+    implicitHeight: hasSwitcher && !wide ? 112 : 64
+    color: InformationTheme.canvas
+
+    Accessible.role: Accessible.ToolBar
+
+    DragHandler {
+        target: null
+        onActiveChanged: if (active) header.window.startSystemMove()
+    }
+
+    TapHandler {
+        gesturePolicy: TapHandler.DragThreshold
+        onDoubleTapped: windowButtons.toggleMaximized()
+    }
+
+    BrandMark {
+        id: brand
+
+        x: header.sideMargin
+        y: header.wide ? 14 : 15
+    }
+
+    SurfaceSwitcher {
+        id: switcher
+
+        // In the window's middle where that leaves room, else in the middle of the free space.
+        readonly property real inWindow: (header.width - width) / 2
+        readonly property real inFreeSpace: header.freeLeft + (header.freeWidth - width) / 2
+
+        x: header.wide ? Math.round(header.width >= 1108 ? inWindow : inFreeSpace) : header.sideMargin
+        y: header.wide ? 14 : 64
+        width: header.wide ? implicitWidth : header.width - 2 * header.sideMargin
+        visible: header.hasSwitcher
+        current: header.surface
+        stretched: !header.wide
+        onChosen: surface => header.surfaceChosen(surface)
+    }
+
+    Row {
+        id: actions
+
+        anchors.right: parent.right
+        anchors.rightMargin: header.sideMargin
+        y: header.wide ? 13 : 14
+        height: 38
+        spacing: 12
+
+        WindowButtons {
+            id: windowButtons
+
+            anchors.verticalCenter: parent.verticalCenter
+            window: header.window
+        }
+    }
+
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: 1
+        color: InformationTheme.hair
+    }
+}
