@@ -1,6 +1,0 @@
-#pragma once
-
-#include "VectorFunctions.h"
-
-/// The application model's cases: its derived members and its actions.
-void addModelFunctions(VectorFunctions& functions);
