@@ -1,0 +1,21 @@
+#pragma once
+
+#include "InformationFollowUpdateMode.h"
+
+#include <QString>
+
+/// The workbench's sentences that have rules in them.
+namespace WorkbenchTexts {
+
+/// How many public entries the curators' selection is said to rest on, fixed.
+inline constexpr int checkedItemCount = 478;
+
+QString todayLead(qsizetype visible, qsizetype focused, qsizetype hidden);
+
+/// What the reader's earlier adjustments did; speaks of the lanes where any is turned down.
+QString preferenceStatusText(qsizetype reducedLanes, qsizetype hidden);
+
+/// How a kept signal will be followed.
+QString followText(InformationFollowUpdateMode updateMode);
+
+} // namespace WorkbenchTexts
