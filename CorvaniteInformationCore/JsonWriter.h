@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QAnyStringView>
+#include <QByteArray>
+#include <QList>
+#include <QStringView>
+
+/// Writes one JSON document: UTF-8, an indented line for each member and element, slashes not
+/// escaped, members in the order given. What is no character (half of a surrogate pair) is written
+/// as U+FFFD, so that every document reads.
+class JsonWriter
+{
+public:
+    void beginObject() { begin('{'); }
+    void endObject() { end('}'); }
+    void beginArray() { begin('['); }
+    void endArray() { end(']'); }
+
+    /// Names the member that the next value becomes.
+    void key(QAnyStringView name);
+    void string(QStringView text);
+    void integer(qint64 number);
+
+    /// The finished document, with a line end.
+    QByteArray document() const { return m_document + '\n'; }
+
+private:
+    void begin(char bracket);
+    void end(char bracket);
+    void startValue();
+    void startLine();
+    void quote(QStringView text);
+
+    QByteArray m_document;
+    /// For each open object or array whether it has something in it.
+    QList<bool> m_filled;
+    bool m_isAfterKey = false;
+};
