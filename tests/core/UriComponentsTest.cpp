@@ -1,0 +1,78 @@
+#include "UriComponents.h"
+
+#include <QTest>
+
+using OptionalText = std::optional<QString>;
+
+class UriComponentsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void of_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<OptionalText>("scheme");
+        QTest::addColumn<OptionalText>("authority");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<OptionalText>("query");
+        QTest::addColumn<OptionalText>("fragment");
+
+        const OptionalText none;
+        const auto row = [](const QString& text, const OptionalText& scheme,
+                            const OptionalText& authority, const QString& path,
+                            const OptionalText& query, const OptionalText& fragment) {
+            QTest::newRow(qPrintable(text))
+                << text << scheme << authority << path << query << fragment;
+        };
+        row(u""_qs, none, none, u""_qs, none, none);
+        row(u"https://u@h.example:8/a/b?c=d#e"_qs, u"https"_qs, u"u@h.example:8"_qs, u"/a/b"_qs,
+            u"c=d"_qs, u"e"_qs);
+        row(u"HTTPS://H"_qs, u"HTTPS"_qs, u"H"_qs, u""_qs, none, none);
+        row(u"https://h?q"_qs, u"https"_qs, u"h"_qs, u""_qs, u"q"_qs, none);
+        row(u"https://h#f?g"_qs, u"https"_qs, u"h"_qs, u""_qs, none, u"f?g"_qs);
+        row(u"https://h/?#"_qs, u"https"_qs, u"h"_qs, u"/"_qs, u""_qs, u""_qs);
+        row(u"https://h/??a#b#c"_qs, u"https"_qs, u"h"_qs, u"/"_qs, u"?a"_qs, u"b#c"_qs);
+        row(u"https:///x"_qs, u"https"_qs, u""_qs, u"/x"_qs, none, none);
+        row(u"https://"_qs, u"https"_qs, u""_qs, u""_qs, none, none);
+        row(u"https:/x"_qs, u"https"_qs, none, u"/x"_qs, none, none);
+        row(u"https:x"_qs, u"https"_qs, none, u"x"_qs, none, none);
+        row(u"https:"_qs, u"https"_qs, none, u""_qs, none, none);
+        row(u"//h/x"_qs, none, u"h"_qs, u"/x"_qs, none, none);
+        row(u"urn:isbn:1"_qs, u"urn"_qs, none, u"isbn:1"_qs, none, none);
+        row(u"view-source+x.1:y"_qs, u"view-source+x.1"_qs, none, u"y"_qs, none, none);
+        // No scheme.
+        row(u"3:1"_qs, none, none, u"3:1"_qs, none, none);
+        row(u"10.0.0.1:80"_qs, none, none, u"10.0.0.1:80"_qs, none, none);
+        row(u":x"_qs, none, none, u":x"_qs, none, none);
+        row(u" https://h"_qs, none, none, u" https://h"_qs, none, none);
+        row(u"提醒:x"_qs, none, none, u"提醒:x"_qs, none, none);
+        row(u"?q=1:2"_qs, none, none, u""_qs, u"q=1:2"_qs, none);
+        row(u"#a:b"_qs, none, none, u""_qs, none, u"a:b"_qs);
+        row(u"a/b:c"_qs, none, none, u"a/b:c"_qs, none, none);
+        // White space and control characters are characters like others.
+        row(u"https://h/a\nb c?d\ne#f\n"_qs, u"https"_qs, u"h"_qs, u"/a\nb c"_qs, u"d\ne"_qs,
+            u"f\n"_qs);
+        row(u"https://h\\@i/\\"_qs, u"https"_qs, u"h\\@i"_qs, u"/\\"_qs, none, none);
+    }
+
+    void of()
+    {
+        QFETCH(QString, text);
+        QFETCH(OptionalText, scheme);
+        QFETCH(OptionalText, authority);
+        QFETCH(QString, path);
+        QFETCH(OptionalText, query);
+        QFETCH(OptionalText, fragment);
+
+        const UriComponents components = UriComponents::of(text);
+        QCOMPARE(components.scheme, scheme);
+        QCOMPARE(components.authority, authority);
+        QCOMPARE(components.path, path);
+        QCOMPARE(components.query, query);
+        QCOMPARE(components.fragment, fragment);
+    }
+};
+
+QTEST_APPLESS_MAIN(UriComponentsTest)
+#include "UriComponentsTest.moc"
