@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ArchiveEntryRow.h"
+#include "InformationSignal.h"
+#include "SelectionDay.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+/// One day in the archive's index.
+struct ArchiveDayRow
+{
+    Q_GADGET
+    QML_VALUE_TYPE(archiveDayRow)
+
+    Q_PROPERTY(QString date MEMBER date CONSTANT FINAL)
+    Q_PROPERTY(QString monthDay MEMBER monthDay CONSTANT FINAL)
+    Q_PROPERTY(QString weekday MEMBER weekday CONSTANT FINAL)
+    Q_PROPERTY(bool isToday MEMBER isToday CONSTANT FINAL)
+    Q_PROPERTY(QList<ArchiveEntryRow> entries MEMBER entries CONSTANT FINAL)
+    Q_PROPERTY(QString closing MEMBER closing CONSTANT FINAL)
+    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+
+public:
+    /// @param focusSignals the day's featured signals as far as they are still there
+    /// @param packDay the day of the pack that is shown
+    static ArchiveDayRow from(const SelectionDay& day, const QList<InformationSignal>& focusSignals,
+                              const QString& packDay);
+
+    /// As in the selection history.
+    QString date;
+    QString monthDay;
+    QString weekday;
+    bool isToday = false;
+    QList<ArchiveEntryRow> entries;
+    QString closing;
+    /// For a screen reader.
+    QString name;
+
+    const QString& key() const { return date; }
+
+    friend bool operator==(const ArchiveDayRow&, const ArchiveDayRow&) = default;
+};

@@ -1,0 +1,20 @@
+#include "WeekRow.h"
+
+#include "WeeklyDigestLabels.h"
+
+WeekRow WeekRow::from(const WeeklyDigest::Week& week,
+                      const QHash<QString, InformationSignal>& index,
+                      const std::optional<QString>& currentWeekId)
+{
+    WeekRow row;
+    row.weekId = week.weekId;
+    row.range = WeeklyDigestLabels::range(week.monday, week.sunday);
+    row.running = week.weekId == currentWeekId;
+    row.badge = WeeklyDigestLabels::badge(row.running);
+    row.summary = WeeklyDigestLabels::summary(week, index);
+    row.days.reserve(week.days.size());
+    for (const auto& day : week.days) {
+        row.days.append(WeekDayRow::from(day, index));
+    }
+    return row;
+}

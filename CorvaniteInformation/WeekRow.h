@@ -1,0 +1,44 @@
+#pragma once
+
+#include "WeekDayRow.h"
+#include "WeeklyDigest.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include <optional>
+
+/// One week of the weekly digest.
+struct WeekRow
+{
+    Q_GADGET
+    QML_VALUE_TYPE(weekRow)
+
+    Q_PROPERTY(QString range MEMBER range CONSTANT FINAL)
+    Q_PROPERTY(QString badge MEMBER badge CONSTANT FINAL)
+    Q_PROPERTY(bool running MEMBER running CONSTANT FINAL)
+    Q_PROPERTY(QString summary MEMBER summary CONSTANT FINAL)
+    Q_PROPERTY(QList<WeekDayRow> days MEMBER days CONSTANT FINAL)
+
+public:
+    /// @param index the signals that are still there, by id
+    /// @param currentWeekId the id of the present week at UTC+8
+    static WeekRow from(const WeeklyDigest::Week& week,
+                        const QHash<QString, InformationSignal>& index,
+                        const std::optional<QString>& currentWeekId);
+
+    QString weekId;
+    QString range;
+    QString badge;
+    /// The week is the present one.
+    bool running = false;
+    QString summary;
+    QList<WeekDayRow> days;
+
+    const QString& key() const { return weekId; }
+
+    friend bool operator==(const WeekRow&, const WeekRow&) = default;
+};
