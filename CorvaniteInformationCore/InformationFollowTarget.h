@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FieldHash.h"
 #include "InformationFollowUpdateMode.h"
 
 #include <QString>
@@ -21,3 +22,9 @@ struct InformationFollowTarget
     friend bool operator==(const InformationFollowTarget&,
                            const InformationFollowTarget&) = default;
 };
+
+inline size_t qHash(const InformationFollowTarget& target, size_t seed = 0) noexcept
+{
+    return FieldHash::hash(seed, target.id, target.label, target.scope, target.url,
+                           target.updateMode, target.discoveryRef);
+}

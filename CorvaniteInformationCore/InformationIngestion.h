@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FieldHash.h"
 #include "InformationEvidenceClass.h"
 #include "InformationIngestionMode.h"
 #include "InformationSupportingEvidence.h"
@@ -23,3 +24,10 @@ struct InformationIngestion
 
     friend bool operator==(const InformationIngestion&, const InformationIngestion&) = default;
 };
+
+inline size_t qHash(const InformationIngestion& ingestion, size_t seed = 0) noexcept
+{
+    return FieldHash::hash(seed, ingestion.mode, ingestion.adapter, ingestion.evidenceClass,
+                           ingestion.observationRef, ingestion.changeRef,
+                           ingestion.supportingEvidence);
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FieldHash.h"
+
 #include <QString>
 
 /// A further link of a card.
@@ -11,3 +13,8 @@ struct InformationRelatedSource
     friend bool operator==(const InformationRelatedSource&,
                            const InformationRelatedSource&) = default;
 };
+
+inline size_t qHash(const InformationRelatedSource& source, size_t seed = 0) noexcept
+{
+    return FieldHash::hash(seed, source.label, source.url);
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FieldHash.h"
+
 #include <QString>
 
 /// A row of the registry of collection sources.
@@ -16,3 +18,8 @@ struct InformationSourceEntry
 
     friend bool operator==(const InformationSourceEntry&, const InformationSourceEntry&) = default;
 };
+
+inline size_t qHash(const InformationSourceEntry& entry, size_t seed = 0) noexcept
+{
+    return FieldHash::hash(seed, entry.id, entry.name, entry.kind, entry.take, entry.url);
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FieldHash.h"
 #include "InformationSupportingEvidenceRole.h"
 
 #include <QString>
@@ -15,3 +16,8 @@ struct InformationSupportingEvidence
     friend bool operator==(const InformationSupportingEvidence&,
                            const InformationSupportingEvidence&) = default;
 };
+
+inline size_t qHash(const InformationSupportingEvidence& evidence, size_t seed = 0) noexcept
+{
+    return FieldHash::hash(seed, evidence.role, evidence.observationRef, evidence.changeRef);
+}

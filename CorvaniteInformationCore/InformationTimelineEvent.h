@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FieldHash.h"
+
 #include <QString>
 
 /// One dated event in the history of an item.
@@ -15,3 +17,8 @@ struct InformationTimelineEvent
     friend bool operator==(const InformationTimelineEvent&,
                            const InformationTimelineEvent&) = default;
 };
+
+inline size_t qHash(const InformationTimelineEvent& event, size_t seed = 0) noexcept
+{
+    return FieldHash::hash(seed, event.dateLabel, event.date, event.summary, event.source);
+}
