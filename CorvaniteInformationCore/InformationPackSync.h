@@ -12,7 +12,7 @@
 #include <optional>
 
 /// Information packs: their format, their validation, and the two files of the live directory.
-/// The format is described in docs/formats/information-pack.md.
+/// The formats are described in docs/formats/information-pack.md and retired-signals.md.
 namespace InformationPackSync {
 
 inline constexpr QLatin1StringView expectedSchemaVersion("corvanite-public-information-pack-v6");
@@ -43,7 +43,7 @@ struct SyncError
     /// The document's length, with `TooLarge`.
     qsizetype byteCount = 0;
     /// The schema found, with `UnsupportedSchema`.
-    QString schemaVersion;
+    QString schemaVersion = {};
 
     friend bool operator==(const SyncError&, const SyncError&) = default;
 };

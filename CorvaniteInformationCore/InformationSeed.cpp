@@ -1,0 +1,106 @@
+#include "InformationSeed.h"
+
+#include "InformationPackSync.h"
+#include "JsonReader.h"
+
+#include <QResource>
+
+#include <utility>
+
+namespace {
+
+struct Edition
+{
+    InformationPackSync::Snapshot pack;
+    QList<InformationSignal> retiredSignals;
+    QList<InformationSourceEntry> registrySources;
+};
+
+/// The bytes lie in the program itself and are not copied.
+QByteArray embeddedFile(const QString& name)
+{
+    return QResource(u":/corvanite/seed/"_qs + name).uncompressedData();
+}
+
+// The build fails where one of the files does not decode.
+Edition decodeEdition()
+{
+    return {
+        .pack = InformationPackSync::parse(embeddedFile(u"information-pack.json"_qs)).value(),
+        .retiredSignals =
+            InformationPackSync::parseRetired(embeddedFile(u"retired-signals.json"_qs)).value(),
+        .registrySources =
+            InformationSeed::parseRegistry(embeddedFile(u"registry-sources.json"_qs)).value(),
+    };
+}
+
+const Edition& edition()
+{
+    static const Edition decoded = decodeEdition();
+    return decoded;
+}
+
+InformationSourceEntry readSourceEntry(const JsonReader::Object& object)
+{
+    return {
+        .id = object.string("id"),
+        .name = object.string("name"),
+        .kind = object.string("kind"),
+        .take = object.string("take"),
+        .url = object.string("url"),
+    };
+}
+
+} // namespace
+
+namespace InformationSeed {
+
+const QString& schemaVersion()
+{
+    return edition().pack.schemaVersion;
+}
+
+const QString& selectionPolicyVersion()
+{
+    static const QString version = u"corvanite-public-auto-v1"_qs;
+    return version;
+}
+
+const QString& asOf()
+{
+    return edition().pack.asOf;
+}
+
+qint64 checkedEntryCount()
+{
+    return edition().pack.checkedEntryCount;
+}
+
+const QList<InformationSignal>& signals()
+{
+    return edition().pack.signals;
+}
+
+const QList<SelectionDay>& selectionHistory()
+{
+    return edition().pack.selectionDays;
+}
+
+const QList<InformationSignal>& retiredSignals()
+{
+    return edition().retiredSignals;
+}
+
+const QList<InformationSourceEntry>& registrySources()
+{
+    return edition().registrySources;
+}
+
+std::optional<QList<InformationSourceEntry>> parseRegistry(const QByteArray& document)
+{
+    JsonReader reader(document);
+    auto entries = reader.root().list("sources", readSourceEntry);
+    return reader.error() ? std::nullopt : std::optional(std::move(entries));
+}
+
+} // namespace InformationSeed
