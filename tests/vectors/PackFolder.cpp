@@ -1,10 +1,10 @@
 #include "PackFolder.h"
 
+#include "PackDocuments.h"
+
 QList<VectorTally> checkPackFolder(const QDir& folder)
 {
-    QList<VectorTally> tallies;
-    VectorTally documents(folder.path());
-    tallies.append(documents);
+    const QList<VectorTally> tallies{checkPackDocuments(folder)};
     for (const auto& tally : tallies) {
         tally.printCounts();
     }

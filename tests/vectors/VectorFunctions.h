@@ -10,3 +10,6 @@
 /// What a case's `fn` names: from the case's `in` to what it must equal `out`.
 using VectorFunction = std::function<QJsonValue(const QJsonObject& in)>;
 using VectorFunctions = QHash<QString, VectorFunction>;
+
+// Each adds the functions of one subject, from the file of its name.
+void addPackFunctions(VectorFunctions& functions);

@@ -22,6 +22,7 @@ namespace {
 VectorFunctions allFunctions()
 {
     VectorFunctions functions;
+    addPackFunctions(functions);
     return functions;
 }
 
