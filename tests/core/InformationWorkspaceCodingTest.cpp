@@ -70,7 +70,7 @@ class InformationWorkspaceCodingTest : public QObject
 private Q_SLOTS:
     void theDocumentedExampleReadsAndIsWrittenTheSame()
     {
-        QFile file(QStringLiteral(EXAMPLES_FOLDER "/workspace-v1.json"));
+        QFile file(QStringLiteral(FORMAT_EXAMPLES "/workspace-v1.json"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray example = file.readAll();
 

@@ -13,3 +13,6 @@ using VectorFunctions = QHash<QString, VectorFunction>;
 
 // Each adds the functions of one subject, from the file of its name.
 void addPackFunctions(VectorFunctions& functions);
+void addProjectionFunctions(VectorFunctions& functions);
+void addStrataFunctions(VectorFunctions& functions);
+void addWorkspaceFunctions(VectorFunctions& functions);

@@ -23,6 +23,9 @@ VectorFunctions allFunctions()
 {
     VectorFunctions functions;
     addPackFunctions(functions);
+    addProjectionFunctions(functions);
+    addStrataFunctions(functions);
+    addWorkspaceFunctions(functions);
     return functions;
 }
 

@@ -1,0 +1,103 @@
+#include "InformationWorkspaceRepository.h"
+
+#include "InformationProjection.h"
+#include "InformationSeed.h"
+#include "InformationSignalIndex.h"
+
+#include <QFileInfo>
+
+#include <type_traits>
+
+namespace {
+
+// The first version that follows target ids; those before it followed signal ids.
+constexpr qint64 firstVersionFollowingTargets = 3;
+
+} // namespace
+
+std::expected<InformationWorkspaceRepository, InformationRepositoryError>
+InformationWorkspaceRepository::live(const InformationFileManager& fileManager)
+{
+    const std::optional<QString> directory = fileManager.applicationSupportDirectory();
+    if (!directory) {
+        return std::unexpected(InformationRepositoryError{
+            .kind = InformationRepositoryError::Kind::ApplicationSupportUnavailable});
+    }
+    return InformationWorkspaceRepository{
+        .filePath = *directory + QStringLiteral("/Corvanite/Information/workspace-v1.json")};
+}
+
+std::expected<InformationWorkspace, InformationWorkspaceRepository::LoadError>
+InformationWorkspaceRepository::load(const InformationFileManager& fileManager) const
+{
+    const auto document = fileManager.readFile(filePath);
+    if (!document) {
+        return std::unexpected(LoadError(document.error()));
+    }
+    if (!*document) {
+        return InformationWorkspace();
+    }
+    const auto workspace = InformationWorkspaceCoding::decode(**document);
+    if (!workspace) {
+        return std::unexpected(LoadError(workspace.error()));
+    }
+    const auto current =
+        migrated(*workspace, InformationSeed::retiredSignals() + InformationSeed::signals());
+    if (!current) {
+        return std::unexpected(LoadError(current.error()));
+    }
+    return *current;
+}
+
+std::expected<void, FileError>
+InformationWorkspaceRepository::save(const InformationWorkspace& workspace,
+                                     const InformationFileManager& fileManager) const
+{
+    InformationWorkspace stored = workspace;
+    stored.normalize();
+    if (const auto made = fileManager.createDirectory(QFileInfo(filePath).path()); !made) {
+        return made;
+    }
+    return fileManager.replaceFile(filePath, InformationWorkspaceCoding::encode(stored));
+}
+
+std::expected<InformationWorkspace, InformationRepositoryError>
+migrated(InformationWorkspace workspace, const QList<InformationSignal>& catalog)
+{
+    if (workspace.version < 1 || workspace.version > InformationWorkspace::currentVersion) {
+        return std::unexpected(
+            InformationRepositoryError{.kind = InformationRepositoryError::Kind::UnsupportedVersion,
+                                       .version = workspace.version});
+    }
+    const QHash<QString, InformationSignal> index = indexById(catalog);
+    for (QString& entry : workspace.hidden) {
+        const auto signal = index.constFind(entry);
+        if (signal != index.constEnd() && !entry.contains(u'@')) {
+            entry = InformationProjection::versionKey(*signal);
+        }
+    }
+    if (workspace.version < firstVersionFollowingTargets) {
+        for (QString& entry : workspace.following) {
+            const auto signal = index.constFind(entry);
+            if (signal != index.constEnd()) {
+                entry = signal->followTarget.id;
+            }
+        }
+    }
+    workspace.version = InformationWorkspace::currentVersion;
+    workspace.normalize();
+    return workspace;
+}
+
+QString localizedDescription(const InformationWorkspaceRepository::LoadError& error)
+{
+    return std::visit(
+        []<typename Error>(const Error& cause) -> QString {
+            if constexpr (std::is_same_v<Error, InformationWorkspaceCoding::DecodingError>) {
+                return cause.localizedDescription;
+            } else {
+                return cause.localizedDescription();
+            }
+        },
+        error);
+}
