@@ -40,11 +40,9 @@ private:
 
 FileCallHook failingAt(int failingNumber, int error)
 {
-    return {.before =
-                [=](int number, const char*) {
-                    return number == failingNumber ? std::optional(error) : std::nullopt;
-                },
-            .longestWrite = std::nullopt};
+    return {.before = [=](int number, const char*) {
+        return number == failingNumber ? std::optional(error) : std::nullopt;
+    }};
 }
 
 // The names of the calls that replace a file, in order.
@@ -52,12 +50,10 @@ QList<QByteArray> callsOfAReplacement()
 {
     const Folder folder;
     QList<QByteArray> names;
-    const FileCallHook hook{.before =
-                                [&names](int, const char* name) {
-                                    names.append(name);
-                                    return std::optional<int>();
-                                },
-                            .longestWrite = std::nullopt};
+    const FileCallHook hook{.before = [&names](int, const char* name) {
+        names.append(name);
+        return std::optional<int>();
+    }};
     hook.during([&folder] { QVERIFY(AtomicFile::replace(folder.file(), newBytes)); });
     return names;
 }
@@ -296,7 +292,7 @@ private Q_SLOTS:
     {
         const Folder folder;
         FileCallHook hook;
-        hook.longestWrite = 7;
+        hook.longestTransfer = 7;
 
         hook.during([&] { QVERIFY(AtomicFile::replace(folder.file(), newBytes)); });
 
@@ -308,7 +304,7 @@ private Q_SLOTS:
         const Folder folder;
         FileCallHook hook =
             failingAt(static_cast<int>(callsOfAReplacement().indexOf("write")) + 2, ENOSPC);
-        hook.longestWrite = 7;
+        hook.longestTransfer = 7;
 
         hook.during([&] {
             QCOMPARE(failureOf(AtomicFile::replace(folder.file(), newBytes)),
@@ -340,14 +336,12 @@ private Q_SLOTS:
     {
         const QTemporaryDir root;
         QVERIFY(QDir(root.path()).mkdir(u"here"_qs));
-        const FileCallHook hook{.before =
-                                    [&root](int, const char* name) {
-                                        if (QByteArrayView(name) == "openat") {
-                                            QDir(root.path()).rename(u"here"_qs, u"there"_qs);
-                                        }
-                                        return std::optional<int>();
-                                    },
-                                .longestWrite = std::nullopt};
+        const FileCallHook hook{.before = [&root](int, const char* name) {
+            if (QByteArrayView(name) == "openat") {
+                QDir(root.path()).rename(u"here"_qs, u"there"_qs);
+            }
+            return std::optional<int>();
+        }};
 
         hook.during(
             [&] { QVERIFY(AtomicFile::replace(root.filePath(u"here/file"_qs), newBytes)); });
@@ -360,14 +354,12 @@ private Q_SLOTS:
     {
         const QTemporaryDir root;
         QVERIFY(QDir(root.path()).mkdir(u"here"_qs));
-        const FileCallHook hook{.before =
-                                    [&root](int, const char* name) {
-                                        if (QByteArrayView(name) == "openat") {
-                                            QDir(root.path()).rmdir(u"here"_qs);
-                                        }
-                                        return std::optional<int>();
-                                    },
-                                .longestWrite = std::nullopt};
+        const FileCallHook hook{.before = [&root](int, const char* name) {
+            if (QByteArrayView(name) == "openat") {
+                QDir(root.path()).rmdir(u"here"_qs);
+            }
+            return std::optional<int>();
+        }};
 
         hook.during([&] {
             QCOMPARE(failureOf(AtomicFile::replace(root.filePath(u"here/file"_qs), newBytes)),
@@ -395,14 +387,12 @@ private Q_SLOTS:
 
         const pid_t child = ::fork();
         if (child == 0) {
-            const FileCallHook hook{.before =
-                                        [step](int number, const char*) {
-                                            if (number == step) {
-                                                std::raise(SIGKILL);
-                                            }
-                                            return std::optional<int>();
-                                        },
-                                    .longestWrite = std::nullopt};
+            const FileCallHook hook{.before = [step](int number, const char*) {
+                if (number == step) {
+                    std::raise(SIGKILL);
+                }
+                return std::optional<int>();
+            }};
             hook.during([&] { Q_UNUSED(AtomicFile::replace(folder.file(), newBytes)); });
             ::_exit(0);
         }

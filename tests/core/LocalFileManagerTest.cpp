@@ -1,5 +1,6 @@
 #include "LocalFileManager.h"
 
+#include "FileCallHook.h"
 #include "FileTree.h"
 #include "OrdinaryUser.h"
 
@@ -87,6 +88,50 @@ private Q_SLOTS:
         QVERIFY((*read)->endsWith('\n'));
     }
 
+    void readingGoesOnAfterSignalsAndShortReads()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"file"_qs);
+        writeFile(path, "some bytes");
+        bool isInterrupted = false;
+        const FileCallHook hook{.before =
+                                    [&isInterrupted](int, const char* name) {
+                                        isInterrupted =
+                                            QByteArrayView(name) == "read" && !isInterrupted;
+                                        return isInterrupted ? std::optional(EINTR) : std::nullopt;
+                                    },
+                                .longestTransfer = 3};
+
+        hook.during([&] {
+            QCOMPARE(fileManager.readFile(path).value(), std::optional(QByteArray("some bytes")));
+        });
+    }
+
+    void aDiskThatCannotBeReadIsAnError_data()
+    {
+        QTest::addColumn<QByteArray>("call");
+
+        QTest::newRow("open") << QByteArray("open");
+        QTest::newRow("read") << QByteArray("read");
+    }
+
+    void aDiskThatCannotBeReadIsAnError()
+    {
+        QFETCH(QByteArray, call);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"file"_qs);
+        writeFile(path, "text");
+        const FileCallHook hook{.before = [&call](int, const char* name) {
+            return call == name ? std::optional(EIO) : std::nullopt;
+        }};
+
+        hook.during([&] {
+            const auto read = fileManager.readFile(path);
+            QVERIFY(!read);
+            QCOMPARE(read.error(), FileError::fromSystemError(EIO));
+        });
+    }
+
     void noFileIsNoError_data()
     {
         QTest::addColumn<QString>("name");
@@ -168,6 +213,32 @@ private Q_SLOTS:
             QVERIFY(QFileInfo(root.filePath(name)).isDir());
             QCOMPARE(modeOf(root.filePath(name)), 0700);
         }
+    }
+
+    void eachNewFolderIsSyncedInTheOneAboveIt()
+    {
+        const QTemporaryDir root;
+        int syncs = 0;
+        const FileCallHook hook{.before = [&syncs](int, const char* name) {
+            syncs += QByteArrayView(name) == "fsync" ? 1 : 0;
+            return std::optional<int>();
+        }};
+
+        hook.during([&] { QVERIFY(fileManager.createDirectory(root.filePath(u"a/b/c"_qs))); });
+        QCOMPARE(syncs, 3);
+
+        hook.during([&] { QVERIFY(fileManager.createDirectory(root.filePath(u"a/b/c"_qs))); });
+        QCOMPARE(syncs, 3);
+    }
+
+    void aFolderThatCannotBeSyncedIsThereAllTheSame()
+    {
+        const QTemporaryDir root;
+        const FileCallHook hook{.before = [](int, const char*) { return std::optional(EIO); }};
+
+        hook.during([&] { QVERIFY(fileManager.createDirectory(root.filePath(u"a/b"_qs))); });
+
+        QVERIFY(QFileInfo(root.filePath(u"a/b"_qs)).isDir());
     }
 
     void aFolderThatIsThereStaysAsItIs_data()

@@ -29,6 +29,11 @@ bool fails(const char* name)
     return false;
 }
 
+std::size_t transferable(std::size_t count)
+{
+    return currentHook ? std::min(count, currentHook->longestTransfer.value_or(count)) : count;
+}
+
 template <typename Function>
 Function* next(const char* name)
 {
@@ -37,13 +42,12 @@ Function* next(const char* name)
 
 } // namespace
 
-int FileCallHook::during(const std::function<void()>& action) const
+void FileCallHook::during(const std::function<void()>& action) const
 {
     currentHook = this;
     callNumber = 0;
     action();
     currentHook = nullptr;
-    return callNumber;
 }
 
 // The program's own definitions come before the C library's.
@@ -69,16 +73,16 @@ int openat(int folder, const char* path, int flags, ...)
     return fails("openat") ? -1 : real(folder, path, flags, mode);
 }
 
+ssize_t read(int descriptor, void* bytes, size_t count)
+{
+    static const auto real = next<ssize_t(int, void*, size_t)>("read");
+    return fails("read") ? -1 : real(descriptor, bytes, transferable(count));
+}
+
 ssize_t write(int descriptor, const void* bytes, size_t count)
 {
     static const auto real = next<ssize_t(int, const void*, size_t)>("write");
-    if (fails("write")) {
-        return -1;
-    }
-    if (currentHook && currentHook->longestWrite) {
-        count = std::min(count, *currentHook->longestWrite);
-    }
-    return real(descriptor, bytes, count);
+    return fails("write") ? -1 : real(descriptor, bytes, transferable(count));
 }
 
 int fsync(int descriptor)
