@@ -1,5 +1,7 @@
 #include "InformationProjection.h"
 
+#include "DecimalNumber.h"
+
 #include <chrono>
 
 using namespace std::chrono;
@@ -34,22 +36,11 @@ bool isDigit(QChar character)
     return character >= u'0' && character <= u'9';
 }
 
-std::optional<int> decimalField(QStringView text)
-{
-    int value = 0;
-    for (const QChar character : text) {
-        if (!isDigit(character)) {
-            return std::nullopt;
-        }
-        value = value * 10 + (character.unicode() - u'0');
-    }
-    return value;
-}
-
 std::optional<int> decimalField(QStringView text, int least, int most)
 {
-    const std::optional<int> value = decimalField(text);
-    return value && *value >= least && *value <= most ? value : std::nullopt;
+    const std::optional<qint64> value = decimalNumber(text);
+    return value && *value >= least && *value <= most ? std::optional(static_cast<int>(*value))
+                                                      : std::nullopt;
 }
 
 std::optional<CivilTime> civilTime(QStringView text)
@@ -58,7 +49,7 @@ std::optional<CivilTime> civilTime(QStringView text)
         (text[10] != u'T' && text[10] != u't') || text[13] != u':' || text[16] != u':') {
         return std::nullopt;
     }
-    const auto year = decimalField(text.first(4));
+    const auto year = decimalField(text.first(4), 0, 9999);
     const auto month = decimalField(text.sliced(5, 2), 1, 12);
     const auto day = decimalField(text.sliced(8, 2), 1, 31);
     const auto hour = decimalField(text.sliced(11, 2), 0, 23);

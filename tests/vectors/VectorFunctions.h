@@ -12,7 +12,11 @@ using VectorFunction = std::function<QJsonValue(const QJsonObject& in)>;
 using VectorFunctions = QHash<QString, VectorFunction>;
 
 // Each adds the functions of one subject, from the file of its name.
+void addDigestFunctions(VectorFunctions& functions);
+void addIntakeFunctions(VectorFunctions& functions);
+void addLabelFunctions(VectorFunctions& functions);
 void addPackFunctions(VectorFunctions& functions);
 void addProjectionFunctions(VectorFunctions& functions);
 void addStrataFunctions(VectorFunctions& functions);
+void addUpdateFunctions(VectorFunctions& functions);
 void addWorkspaceFunctions(VectorFunctions& functions);

@@ -22,9 +22,13 @@ namespace {
 VectorFunctions allFunctions()
 {
     VectorFunctions functions;
+    addDigestFunctions(functions);
+    addIntakeFunctions(functions);
+    addLabelFunctions(functions);
     addPackFunctions(functions);
     addProjectionFunctions(functions);
     addStrataFunctions(functions);
+    addUpdateFunctions(functions);
     addWorkspaceFunctions(functions);
     return functions;
 }

@@ -1,0 +1,136 @@
+#include "InformationUpdateNotice.h"
+
+#include "DecimalNumber.h"
+#include "JsonReader.h"
+#include "NumericCharacter.h"
+#include "UriAuthority.h"
+#include "UriComponents.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+using ParseError = InformationUpdateNotice::ParseError;
+
+// The document as it stands.
+struct Document
+{
+    std::optional<QString> schemaVersion;
+    std::optional<QString> version;
+    std::optional<QString> build;
+    std::optional<QString> downloadUrl;
+    std::optional<QString> sha256;
+    std::optional<qint64> sizeBytes;
+    std::optional<QString> notesZh;
+};
+
+std::optional<Document> decode(const QByteArray& bytes)
+{
+    JsonReader reader(bytes);
+    const JsonReader::Object root = reader.root();
+    Document document{
+        .schemaVersion = root.optionalString("schemaVersion"),
+        .version = root.optionalString("version"),
+        .build = root.optionalString("build"),
+        .downloadUrl = root.optionalString("downloadUrl"),
+        .sha256 = root.optionalString("sha256"),
+        .sizeBytes = root.optionalInteger("sizeBytes"),
+        .notesZh = std::nullopt,
+    };
+    if (const auto notes = root.optionalObject("notes")) {
+        document.notesZh = notes->optionalString("zh");
+        // Not shown, but a text like the other.
+        notes->optionalString("en");
+    }
+    return reader.error() ? std::nullopt : std::optional(document);
+}
+
+// Compared as text: a letter's case or an escape makes another host.
+bool isTrusted(const QString& downloadUrl, const QString& allowedHost)
+{
+    const UriComponents components = UriComponents::of(downloadUrl);
+    const auto authority =
+        components.authority ? UriAuthority::of(*components.authority) : std::nullopt;
+    return components.scheme == u"https"_qs && authority && authority->host == allowedHost &&
+           QUrl(downloadUrl, QUrl::StrictMode).isValid();
+}
+
+QString withoutBuildMetadata(const QString& version)
+{
+    const qsizetype plus = version.indexOf(u'+');
+    if (plus < 0) {
+        return version;
+    }
+    const QString before = version.first(plus);
+    const QString after = version.sliced(plus + 1);
+    if (!before.isEmpty()) {
+        return before;
+    }
+    return after.isEmpty() ? version : after;
+}
+
+bool isNumeric(const QString& text)
+{
+    return !text.isEmpty() && std::ranges::all_of(text.toUcs4(), isNumericCharacter);
+}
+
+} // namespace
+
+std::expected<InformationUpdateNotice, ParseError>
+InformationUpdateNotice::parse(const QByteArray& document, const QString& allowedHost)
+{
+    const auto decoded = decode(document);
+    if (!decoded) {
+        return std::unexpected(ParseError{ParseError::Kind::WrongSchemaVersion, std::nullopt});
+    }
+    if (decoded->schemaVersion != expectedSchemaVersion) {
+        return std::unexpected(
+            ParseError{ParseError::Kind::WrongSchemaVersion, decoded->schemaVersion});
+    }
+    if (!versionComponents(decoded->version.value_or(QString()))) {
+        return std::unexpected(ParseError{ParseError::Kind::MissingField, u"version"_qs});
+    }
+    const QString downloadUrl = decoded->downloadUrl.value_or(QString());
+    if (!isTrusted(downloadUrl, allowedHost)) {
+        return std::unexpected(ParseError{ParseError::Kind::UntrustedDownloadURL, downloadUrl});
+    }
+    if (decoded->sha256.value_or(QString()).isEmpty()) {
+        return std::unexpected(ParseError{ParseError::Kind::MissingField, u"sha256"_qs});
+    }
+    return InformationUpdateNotice{
+        .version = *decoded->version,
+        .build = decoded->build.value_or(QString()),
+        .downloadURL = QUrl(downloadUrl, QUrl::StrictMode),
+        .sha256 = *decoded->sha256,
+        .sizeBytes = decoded->sizeBytes,
+        .notesZH = decoded->notesZh.value_or(QString()),
+    };
+}
+
+std::optional<std::array<qint64, 3>>
+InformationUpdateNotice::versionComponents(const QString& version)
+{
+    const QStringList pieces = withoutBuildMetadata(version).split(u'.');
+    if (pieces.size() < 3) {
+        return std::nullopt;
+    }
+    std::array<qint64, 3> components;
+    for (size_t index = 0; index < components.size(); ++index) {
+        const QString& piece = pieces[static_cast<qsizetype>(index)];
+        if (!isNumeric(piece)) {
+            return std::nullopt;
+        }
+        // Numerals that are no ASCII digits count as nothing.
+        components[index] = decimalNumber(piece).value_or(0);
+    }
+    return components;
+}
+
+bool InformationUpdateNotice::isNewer(const QString& candidate, const QString& current)
+{
+    const auto candidateComponents = versionComponents(candidate);
+    const auto currentComponents = versionComponents(current);
+    return candidateComponents && currentComponents && *candidateComponents > *currentComponents;
+}
