@@ -3,6 +3,7 @@
 #include "ArchiveDigest.h"
 #include "InformationIntake.h"
 #include "InformationProjection.h"
+#include "InformationSignalIndex.h"
 
 #include <QThread>
 
@@ -11,22 +12,6 @@
 #include <utility>
 
 namespace {
-
-QHash<QString, InformationSignal> indexedById(const QList<InformationSignal>& retiredSignals,
-                                              const QList<InformationSignal>& liveSignals)
-{
-    QHash<QString, InformationSignal> index;
-    index.reserve(retiredSignals.size() + liveSignals.size());
-    for (const auto* signals : {&retiredSignals, &liveSignals}) {
-        for (const auto& signal : *signals) {
-            if (index.contains(signal.id)) {
-                qFatal("The signal id %s stands twice in the content.", qUtf8Printable(signal.id));
-            }
-            index.insert(signal.id, signal);
-        }
-    }
-    return index;
-}
 
 template <typename T>
 void appendOnce(QList<T>& list, const T& value)
@@ -81,7 +66,7 @@ const QList<InformationSignal>& InformationModel::visibleSignals() const
 const QHash<QString, InformationSignal>& InformationModel::signalIndex() const
 {
     if (!m_signalIndexCache) {
-        m_signalIndexCache = indexedById(retiredSignals(), signals());
+        m_signalIndexCache = indexById(retiredSignals() + signals());
     }
     return *m_signalIndexCache;
 }

@@ -15,6 +15,7 @@ using VectorFunctions = QHash<QString, VectorFunction>;
 void addDigestFunctions(VectorFunctions& functions);
 void addIntakeFunctions(VectorFunctions& functions);
 void addLabelFunctions(VectorFunctions& functions);
+void addModelFunctions(VectorFunctions& functions);
 void addPackFunctions(VectorFunctions& functions);
 void addProjectionFunctions(VectorFunctions& functions);
 void addStrataFunctions(VectorFunctions& functions);

@@ -25,6 +25,7 @@ VectorFunctions allFunctions()
     addDigestFunctions(functions);
     addIntakeFunctions(functions);
     addLabelFunctions(functions);
+    addModelFunctions(functions);
     addPackFunctions(functions);
     addProjectionFunctions(functions);
     addStrataFunctions(functions);
