@@ -1,6 +1,7 @@
 #include "InformationUpdateNotice.h"
 
 #include "DecimalNumber.h"
+#include "FieldHash.h"
 #include "JsonReader.h"
 #include "NumericCharacter.h"
 #include "UriAuthority.h"
@@ -133,4 +134,10 @@ bool InformationUpdateNotice::isNewer(const QString& candidate, const QString& c
     const auto candidateComponents = versionComponents(candidate);
     const auto currentComponents = versionComponents(current);
     return candidateComponents && currentComponents && *candidateComponents > *currentComponents;
+}
+
+size_t qHash(const InformationUpdateNotice& notice, size_t seed) noexcept
+{
+    return FieldHash::hash(seed, notice.version, notice.build, notice.downloadURL, notice.sha256,
+                           notice.sizeBytes, notice.notesZH);
 }

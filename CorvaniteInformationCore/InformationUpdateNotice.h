@@ -50,3 +50,6 @@ struct InformationUpdateNotice
     friend bool operator==(const InformationUpdateNotice&,
                            const InformationUpdateNotice&) = default;
 };
+
+/// Hashes every field, as equality compares every field.
+size_t qHash(const InformationUpdateNotice& notice, size_t seed = 0) noexcept;

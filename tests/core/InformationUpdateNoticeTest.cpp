@@ -232,6 +232,27 @@ private Q_SLOTS:
         }
     }
 
+    void equalityAndHashTakeEveryField()
+    {
+        const InformationUpdateNotice notice = *parse(complete());
+        QCOMPARE(qHash(notice), qHash(*parse(complete())));
+
+        const std::array changes{
+            with(u"version"_qs, u"1.4.1"_qs),
+            with(u"build"_qs, u"141"_qs),
+            with(u"downloadUrl"_qs, u"https://corvanite.example/other"_qs),
+            with(u"sha256"_qs, u"abc124"_qs),
+            with(u"sizeBytes"_qs, 1),
+            without(u"sizeBytes"_qs),
+            without(u"notes"_qs),
+        };
+        for (const QJsonObject& change : changes) {
+            const InformationUpdateNotice other = *parse(change);
+            QVERIFY(other != notice);
+            QVERIFY(qHash(other) != qHash(notice));
+        }
+    }
+
     void versionComponents_data()
     {
         QTest::addColumn<QString>("version");
