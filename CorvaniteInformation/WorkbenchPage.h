@@ -1,0 +1,38 @@
+#pragma once
+
+#include "InformationModel.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+
+/// What stands between the model and one surface: finished texts and rows, worked out once per
+/// change of the model.
+class WorkbenchPage : public QObject
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+
+    Q_PROPERTY(InformationModel* workbench READ workbench WRITE setWorkbench NOTIFY workbenchChanged
+                   REQUIRED FINAL)
+
+public:
+    using QObject::QObject;
+
+    InformationModel* workbench() const { return m_workbench; }
+    void setWorkbench(InformationModel* workbench);
+
+    /// Works everything out anew: the model has changed, or time has passed.
+    Q_INVOKABLE void refresh();
+
+Q_SIGNALS:
+    void workbenchChanged();
+
+protected:
+    /// Connects `refresh` to the changes that the page shows.
+    virtual void follow(const InformationModel& workbench) = 0;
+    virtual void show(const InformationModel& workbench) = 0;
+
+private:
+    QPointer<InformationModel> m_workbench;
+};
