@@ -288,6 +288,16 @@ private Q_SLOTS:
         QVERIFY(folder.holdsOnly(newBytes));
     }
 
+    void aTakenNameIsTriedAgainWithAnother()
+    {
+        const Folder folder;
+
+        failingAt(static_cast<int>(callsOfAReplacement().indexOf("openat")) + 1, EEXIST)
+            .during([&] { QVERIFY(AtomicFile::replace(folder.file(), newBytes)); });
+
+        QVERIFY(folder.holdsOnly(newBytes));
+    }
+
     void shortWritesGoOn()
     {
         const Folder folder;

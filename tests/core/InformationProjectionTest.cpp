@@ -181,6 +181,7 @@ private Q_SLOTS:
 
         QCOMPARE(focusIds(mixedPool(), 7, u"not a time"_qs, featured({u"u1"_qs, u"o1"_qs})),
                  wanted);
+        QCOMPARE(focusIds(mixedPool(), 3, u"not a time"_qs, {}), wanted.first(3));
     }
 
     void whatWasFeaturedThatDayComesLast()
