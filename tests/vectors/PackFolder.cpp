@@ -1,10 +1,14 @@
 #include "PackFolder.h"
 
 #include "PackDocuments.h"
+#include "WorkspaceFolder.h"
 
 QList<VectorTally> checkPackFolder(const QDir& folder)
 {
-    const QList<VectorTally> tallies{checkPackDocuments(folder)};
+    const QList<VectorTally> tallies{
+        checkPackDocuments(folder),
+        checkWorkspaceFolder(QDir(folder.filePath(u"workspaces"_qs))),
+    };
     for (const auto& tally : tallies) {
         tally.printCounts();
     }
