@@ -24,7 +24,7 @@ std::optional<QByteArray> content(const QString& path)
 
 QJsonObject object(const QString& path)
 {
-    return QJsonDocument::fromJson(content(path).value()).object();
+    return QJsonDocument::fromJson(content(path).value_or(QByteArray())).object();
 }
 
 QList<InformationSignal> signalsOf(const QJsonValue& modelForms)
