@@ -51,12 +51,16 @@ ButtonLook {
         controlRadius: control.radius
     }
 
-    Loader {
-        active: control.help !== "" && control.hovered
-        sourceComponent: HelpTip {
-            parent: control
-            text: control.help
-            visible: true
+    // A Loader of 6.4 cannot make a bound component.
+    Repeater {
+        model: control.help !== "" && control.hovered ? 1 : 0
+
+        Item {
+            HelpTip {
+                parent: control
+                text: control.help
+                visible: true
+            }
         }
     }
 }

@@ -11,6 +11,8 @@ Text {
     font: text.textStyle.font
     lineHeight: text.textStyle.lineHeight
     lineHeightMode: Text.FixedHeight
+    topPadding: text.textStyle.spaceAbove
+    bottomPadding: text.textStyle.spaceBelow
     textFormat: Text.PlainText
     wrapMode: Text.Wrap
 

@@ -9,28 +9,28 @@ Item {
 
     required property ButtonLook control
     readonly property alias textItem: text
-    readonly property real iconSpace: icon.active ? control.iconSize + (text.visible ? control.spacing : 0) : 0
+    readonly property bool hasIcon: control.iconPath !== ""
+    readonly property real iconSpace: hasIcon ? control.iconSize + control.spacing : 0
 
-    implicitWidth: iconSpace + (text.visible ? text.implicitWidth : 0)
-    implicitHeight: Math.max(icon.height, text.visible ? text.implicitHeight : 0)
+    implicitWidth: iconSpace + text.implicitWidth
+    implicitHeight: Math.max(hasIcon ? control.iconSize : 0, text.implicitHeight)
 
     Row {
         anchors.centerIn: parent
         spacing: label.control.spacing
         layoutDirection: label.control.iconTrails ? Qt.RightToLeft : Qt.LeftToRight
 
-        Loader {
-            id: icon
+        // A Loader of 6.4 cannot make a bound component.
+        Repeater {
+            model: label.hasIcon ? 1 : 0
 
-            anchors.verticalCenter: parent.verticalCenter
-            active: label.control.iconPath !== ""
-            visible: active
-            rotation: label.control.iconRotation
-            sourceComponent: Icon {
+            Icon {
+                anchors.verticalCenter: parent?.verticalCenter
                 path: label.control.iconPath
                 size: label.control.iconSize
                 stroke: label.control.iconStroke
                 color: label.control.iconTint
+                rotation: label.control.iconRotation
             }
         }
 
@@ -39,7 +39,6 @@ Item {
 
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, label.width - label.iconSpace)
-            visible: text !== ""
             text: label.control.text
             textStyle: label.control.textStyle
             color: label.control.tint

@@ -14,7 +14,7 @@ AppButton {
     leftPadding: hasSquare ? 9 : 11
     rightPadding: 11
     radius: 14
-    focusPolicy: checked ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: checked || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     textStyle: checked ? InformationTheme.captionBold : InformationTheme.caption
     tint: checked ? InformationTheme.selectedChipInk : hovered || down ? InformationTheme.ink : InformationTheme.ink2
     ground: checked ? InformationTheme.selectedChip : down ? InformationTheme.chipPressed : "transparent"

@@ -8,7 +8,7 @@ AppButton {
     implicitHeight: 30
     horizontalPadding: 12
     radius: InformationTheme.segmentRadius
-    focusPolicy: selected ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: selected || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     textStyle: selected ? InformationTheme.smallBold : InformationTheme.small
     tint: selected || hovered ? InformationTheme.ink : InformationTheme.ink2
     iconTint: selected ? InformationTheme.accent : tint

@@ -52,7 +52,7 @@ Rectangle {
         const segment = repeater.itemAt(index);
         if (segment === null)
             return;
-        chosen(surfaces[index].surface);
         segment.forceActiveFocus(Qt.TabFocusReason);
+        chosen(surfaces[index].surface);
     }
 }

@@ -1,0 +1,90 @@
+import QtQuick
+import QtQuick.Window
+import CorvaniteInformation
+
+/// The program's window: header, the surface chosen, footer, and over them the receipt bar and the
+/// error alert.
+Window {
+    id: window
+
+    required property InformationModel workbench
+    required property AppearancePortal appearance
+    /// The base address of the product site.
+    required property string siteOrigin
+
+    width: 1120
+    height: 780
+    minimumWidth: 720
+    minimumHeight: 560
+    visible: true
+    title: "Corvanite Information"
+    flags: Qt.Window | Qt.FramelessWindowHint
+    color: InformationTheme.canvas
+
+    Item {
+        id: page
+
+        anchors.fill: parent
+
+        WorkbenchHeader {
+            id: header
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            window: window
+            surface: window.workbench.surface
+            surfaces: [
+                SurfaceEntry {
+                    surface: InformationModel.Today
+                    label: "今天"
+                    iconPath: IconPaths.sparkles
+                }
+            ]
+            onSurfaceChosen: surface => window.workbench.surface = surface
+        }
+
+        SiteFooter {
+            id: footer
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            siteOrigin: window.siteOrigin
+        }
+
+        ReceiptBar {
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: footer.top
+            anchors.bottomMargin: 16
+            workbench: window.workbench
+            maximumWidth: window.width - 48
+        }
+    }
+
+    ErrorAlert {
+        workbench: window.workbench
+    }
+
+    WindowEdges {
+        anchors.fill: parent
+        window: window
+    }
+
+    Binding {
+        target: InformationTheme
+        property: "reducedMotion"
+        value: window.appearance.reducedMotion
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Undo]
+        enabled: window.workbench.canUndo
+        onActivated: window.workbench.undoLastAction()
+    }
+
+    Shortcut {
+        sequence: "Esc"
+        enabled: window.workbench.hasReceipt
+        onActivated: window.workbench.dismissReceipt()
+    }
+}

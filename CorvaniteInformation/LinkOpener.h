@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+/// The one way from the screens to the system's browser.
+class LinkOpener : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    using QObject::QObject;
+
+    /// Opens a web address that is safe to open; any other does nothing.
+    Q_INVOKABLE static void open(const QString& address);
+
+    /// The address of a page of the product site: its base address and the page's path joined with
+    /// exactly one "/".
+    Q_INVOKABLE static QString sitePage(const QString& origin, const QString& path);
+};

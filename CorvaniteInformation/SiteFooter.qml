@@ -1,0 +1,83 @@
+import QtQuick
+import CorvaniteInformation
+
+/// The bottom of the window: where the reader's things are kept, and the links to the site.
+Rectangle {
+    id: footer
+
+    required property string siteOrigin
+
+    readonly property int sideMargin: width >= 1040 ? 24 : 20
+    readonly property bool oneRow: note.width + 24 + links.width <= width - 2 * sideMargin
+
+    implicitHeight: oneRow ? 36 : 64
+    color: InformationTheme.canvas
+
+    Accessible.role: Accessible.StatusBar
+
+    component SiteLink: LinkText {
+        required property string page
+
+        textStyle: InformationTheme.caption
+        restTint: InformationTheme.ink2
+        onClicked: LinkOpener.open(LinkOpener.sitePage(footer.siteOrigin, page))
+    }
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: InformationTheme.hair
+    }
+
+    AppText {
+        id: note
+
+        x: footer.sideMargin
+        y: 10
+        text: "收下的内容与偏好保存在当前设备"
+        color: InformationTheme.ink3
+        textStyle: InformationTheme.caption
+        wrapMode: Text.NoWrap
+    }
+
+    Row {
+        id: links
+
+        anchors.right: parent.right
+        anchors.rightMargin: footer.sideMargin
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 4
+        spacing: footer.width >= 980 ? 16 : 12
+
+        Accessible.role: Accessible.Grouping
+        Accessible.name: "站点导航"
+
+        AppText {
+            anchors.verticalCenter: parent.verticalCenter
+            text: "站点导航"
+            color: InformationTheme.ink3
+            textStyle: InformationTheme.caption
+            wrapMode: Text.NoWrap
+        }
+
+        SiteLink {
+            text: "编辑方法"
+            page: "method"
+        }
+
+        SiteLink {
+            text: "关于"
+            page: "about"
+        }
+
+        SiteLink {
+            text: "管线状态"
+            page: "status"
+        }
+
+        SiteLink {
+            text: "RSS"
+            page: "feed.xml"
+        }
+    }
+}

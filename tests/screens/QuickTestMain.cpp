@@ -1,0 +1,42 @@
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QQmlError>
+#include <QtQml/qqmlextensionplugin.h>
+#include <QtQuickTest>
+
+#include <cstdlib>
+
+Q_IMPORT_QML_PLUGIN(CorvaniteInformationPlugin)
+
+namespace {
+
+qsizetype warningCount = 0;
+
+} // namespace
+
+/// Lets the tests import the application's module, and counts the warnings that its QML gives.
+class QuickTestSetup : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void qmlEngineAvailable(QQmlEngine* engine)
+    {
+        engine->addImportPath(u":/qt/qml"_qs);
+        connect(engine, &QQmlEngine::warnings,
+                [](const QList<QQmlError>& warnings) { warningCount += warnings.size(); });
+    }
+};
+
+int main(int argc, char* argv[])
+{
+    QuickTestSetup setup;
+    const int failures = quick_test_main_with_setup(argc, argv, "screens", nullptr, &setup);
+    if (warningCount > 0) {
+        qCritical("%lld QML warnings", static_cast<long long>(warningCount));
+        return EXIT_FAILURE;
+    }
+    return failures;
+}
+
+#include "QuickTestMain.moc"
