@@ -12,7 +12,7 @@ EDITABLE_TEXT = "org.a11y.atspi.EditableText"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 TEXT = "org.a11y.atspi.Text"
 
-CALL_TIMEOUT_MS = 5000
+CALL_TIMEOUT_MS = 20000
 
 # The bit of each state that is looked at here, from the AT-SPI protocol.
 STATES = {
