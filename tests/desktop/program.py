@@ -2,11 +2,14 @@
 
 from collections.abc import Callable, Mapping
 from pathlib import Path
+from typing import TypeVar
 
 from accessibility import AccessibilityBus, Element
 from commands import CommandFailed, answer_of
 from own_process import OwnProcess
 from polling import PATIENCE, wait_until
+
+Result = TypeVar("Result")
 
 WINDOW_TITLE = "Corvanite Information"
 
@@ -22,6 +25,17 @@ class Program:
         self._environment = environment
         self._accessibility = accessibility
 
+    def wait_until(self, condition: Callable[[], Result], what: str) -> Result:
+        """The first true result of the condition, which needs the program to run."""
+
+        def unless_ended() -> Result:
+            if not self.process.is_running():
+                messages = "\n".join(self.messages())
+                raise RuntimeError(f"the program has ended, before: {what}\n{messages}")
+            return condition()
+
+        return wait_until(unless_ended, what)
+
     # Process
 
     def messages(self) -> list[str]:
@@ -34,7 +48,7 @@ class Program:
 
     def close(self) -> int:
         """Closes the window as the reader does from the keyboard; the exit status."""
-        wait_until(self.is_active, "the window is active")
+        self.wait_until(self.is_active, "the window is active")
         self.press_keys("alt+F4")
         return self.wait_for_exit()
 
@@ -42,7 +56,7 @@ class Program:
 
     def window(self) -> str:
         """The number of the window, once it is mapped."""
-        return wait_until(self._visible_window, "the window is mapped")
+        return self.wait_until(self._visible_window, "the window is mapped")
 
     def is_active(self) -> bool:
         try:
@@ -52,13 +66,13 @@ class Program:
 
     def minimise(self) -> None:
         self._xdotool("windowminimize", self.window())
-        wait_until(lambda: not self._visible_window(), "the window is minimised")
+        self.wait_until(lambda: not self._visible_window(), "the window is minimised")
 
     def resize(self, width: int, height: int) -> None:
         window = self.window()
         self._xdotool("windowmove", window, "0", "0")
         self._xdotool("windowsize", window, str(width), str(height))
-        wait_until(lambda: self.size() == (width, height), f"the window is {width} x {height}")
+        self.wait_until(lambda: self.size() == (width, height), f"the window is {width} x {height}")
 
     def size(self) -> tuple[int, int]:
         geometry = self._xdotool("getwindowgeometry", "--shell", self.window())
@@ -88,7 +102,7 @@ class Program:
             previous = current
             return still
 
-        wait_until(is_still, "the window is painted and stands still")
+        self.wait_until(is_still, "the window is painted and stands still")
 
     # Accessibility
 
@@ -107,18 +121,18 @@ class Program:
             return element.name == name and role in (None, element.role)
 
         what = f"{role or 'an element'} named “{name}”"
-        return wait_until(lambda: self.find_all(matches), what)[0]
+        return self.wait_until(lambda: self.find_all(matches), what)[0]
 
     def wait_for_beginning(self, beginning: str) -> Element:
         """The first showing element whose name begins so."""
-        return wait_until(
+        return self.wait_until(
             lambda: self.find_all(lambda e: e.name.startswith(beginning)),
             f"an element's name begins with “{beginning}”",
         )[0]
 
     def wait_until_gone(self, name: str) -> None:
         """Waits until no showing element has that name."""
-        wait_until(
+        self.wait_until(
             lambda: self.elements() and not self.find_all(lambda e: e.name == name),
             f"nothing is named “{name}”",
         )
