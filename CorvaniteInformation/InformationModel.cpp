@@ -4,6 +4,7 @@
 #include "InformationIntake.h"
 #include "InformationProjection.h"
 #include "InformationSignalIndex.h"
+#include "WellFormedText.h"
 
 #include <QThread>
 
@@ -323,7 +324,7 @@ void InformationModel::markSeen(const QString& signalId)
 bool InformationModel::addSource(const QString& input)
 {
     assertMainThread();
-    const auto intake = InformationIntake::normalize(input);
+    const auto intake = InformationIntake::normalize(wellFormedText(input));
     if (!intake) {
         setIntakeErrorMessage(intakeMessage(intake.error()));
         return false;
@@ -401,7 +402,7 @@ void InformationModel::updateNote(const QString& signalId, const QString& note)
         appendOnce(workspace.following, signal->followTarget.id);
         const auto saved = workspace.saved.find(entry ? entry->first : signal->id);
         if (saved != workspace.saved.end()) {
-            saved->second.note = note;
+            saved->second.note = wellFormedText(note);
         }
     });
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FieldHash.h"
+
 #include <QString>
 #include <QUuid>
 
@@ -16,3 +18,9 @@ struct CustomInformationSource
     friend bool operator==(const CustomInformationSource&,
                            const CustomInformationSource&) = default;
 };
+
+inline size_t qHash(const CustomInformationSource& source, size_t seed = 0) noexcept
+{
+    return FieldHash::hash(seed, source.id, source.input,
+                           source.createdAt.time_since_epoch().count());
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FieldHash.h"
+
 #include <QString>
 
 #include <chrono>
@@ -16,3 +18,9 @@ struct SavedInformation
 
     friend bool operator==(const SavedInformation&, const SavedInformation&) = default;
 };
+
+inline size_t qHash(const SavedInformation& saved, size_t seed = 0) noexcept
+{
+    return FieldHash::hash(seed, saved.savedAt.time_since_epoch().count(), saved.saveReason,
+                           saved.note);
+}

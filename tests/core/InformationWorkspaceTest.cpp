@@ -26,6 +26,19 @@ class InformationWorkspaceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void recordsHashByEveryField()
+    {
+        const std::chrono::sys_seconds at{std::chrono::seconds(1000)};
+        const SavedInformation saved{at, u"理由"_qs, u"备注"_qs};
+        QCOMPARE(qHash(saved), qHash(SavedInformation{at, u"理由"_qs, u"备注"_qs}));
+        QVERIFY(qHash(saved) != qHash(SavedInformation{at, u"理由"_qs, QString()}));
+
+        const CustomInformationSource source{QUuid(), u"一句话"_qs, at};
+        QCOMPARE(qHash(source), qHash(CustomInformationSource{QUuid(), u"一句话"_qs, at}));
+        QVERIFY(qHash(source) != qHash(CustomInformationSource{QUuid(), u"一句话"_qs,
+                                                               at + std::chrono::seconds(1)}));
+    }
+
     void aNewWorkspaceIsEmptyAndCurrent()
     {
         const InformationWorkspace workspace;

@@ -306,6 +306,15 @@ private Q_SLOTS:
         QCOMPARE(model->workspace().saved.at(u"a"_qs).note, u" 备注 "_qs);
     }
 
+    void aNoteIsTheSameInMemoryAndInTheFile()
+    {
+        const auto model = makeModel();
+        model->updateNote(u"a"_qs, u"半个字符 "_qs + QChar(0xD83D));
+        model->addSource(u"半个字符 "_qs + QChar(0xD83D));
+
+        QCOMPARE(stored(), model->workspace());
+    }
+
     void aNoteKeepsASignalThatIsNotKept()
     {
         const auto model = makeModel();
