@@ -3,33 +3,26 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import CorvaniteInformation
 
-/// What every button of the program has in common: a label with an optional icon on a rounded
-/// ground, pressed by pointer, Space, Enter and a screen reader alike.
-ButtonLook {
+/// What every button of the program has in common: the rounded ground, the keyboard's ring, the
+/// tooltip, and that a screen reader can press it. Its face is laid out by who derives from it.
+Pressable {
     id: control
 
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    spacing: 6
+    /// The name for a screen reader.
+    property string text: ""
+    /// A sentence that tells more than the name, shown as a tooltip.
+    property string help: ""
+    property color ground: "transparent"
+    property color outline: "transparent"
+    property real radius: InformationTheme.quietRadius
 
     Accessible.role: Accessible.Button
     Accessible.name: control.text
     Accessible.description: control.help
     Accessible.onPressAction: if (control.enabled) control.clicked()
 
-    Keys.onReturnPressed: event => control.pressedByKey(event)
-    Keys.onEnterPressed: event => control.pressedByKey(event)
-
-    function pressedByKey(event: KeyEvent) {
-        if (!event.isAutoRepeat)
-            control.clicked();
-    }
-
-    contentItem: ButtonLabel {
-        control: control
-    }
-
-    background: Rectangle {
+    Rectangle {
+        anchors.fill: parent
         color: control.ground
         radius: control.radius
         border.color: control.outline

@@ -6,26 +6,38 @@ import CorvaniteInformation
 AppButton {
     id: control
 
+    required property bool selected
     /// The colour of the small square before the label; transparent for none.
     property color square: "transparent"
     readonly property bool hasSquare: square.a > 0
+    readonly property color tint: {
+        if (selected)
+            return InformationTheme.selectedChipInk;
+        return hovered || down ? InformationTheme.ink : InformationTheme.ink2;
+    }
 
+    implicitWidth: face.x + face.width + 11
     implicitHeight: 28
-    leftPadding: hasSquare ? 9 : 11
-    rightPadding: 11
     radius: 14
-    focusPolicy: checked || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
-    textStyle: checked ? InformationTheme.captionBold : InformationTheme.caption
-    tint: checked ? InformationTheme.selectedChipInk : hovered || down ? InformationTheme.ink : InformationTheme.ink2
-    ground: checked ? InformationTheme.selectedChip : down ? InformationTheme.chipPressed : "transparent"
-    outline: checked ? "transparent" : hovered && !down ? InformationTheme.control : InformationTheme.hairStrong
+    activeFocusOnTab: selected || activeFocus
+    ground: selected ? InformationTheme.selectedChip : down ? InformationTheme.chipPressed : "transparent"
+    outline: {
+        if (selected)
+            return "transparent";
+        return hovered && !down ? InformationTheme.control : InformationTheme.hairStrong;
+    }
 
     Accessible.role: Accessible.RadioButton
     Accessible.checkable: true
-    Accessible.checked: checked
+    Accessible.checked: selected
+    Accessible.onToggleAction: if (control.enabled) control.clicked()
 
-    contentItem: Row {
-        spacing: control.spacing
+    Row {
+        id: face
+
+        x: control.hasSquare ? 9 : 11
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 6
 
         LaneSquare {
             anchors.verticalCenter: parent.verticalCenter
@@ -34,9 +46,8 @@ AppButton {
         }
 
         AppText {
-            anchors.verticalCenter: parent.verticalCenter
             text: control.text
-            textStyle: control.textStyle
+            textStyle: control.selected ? InformationTheme.captionBold : InformationTheme.caption
             color: control.tint
             wrapMode: Text.NoWrap
             Accessible.ignored: true

@@ -77,7 +77,7 @@ Window {
     }
 
     Shortcut {
-        sequences: [StandardKey.Undo]
+        sequence: "Ctrl+Z"
         enabled: window.workbench.canUndo
         onActivated: window.workbench.undoLastAction()
     }

@@ -1,6 +1,7 @@
 #include "LinkOpener.h"
 
 #include "OpenableAddress.h"
+#include "ProductSite.h"
 
 #include <QDesktopServices>
 
@@ -13,13 +14,6 @@ void LinkOpener::open(const QString& address)
 
 QString LinkOpener::sitePage(const QString& origin, const QString& path)
 {
-    QStringView base = origin;
-    while (base.endsWith(u'/')) {
-        base.chop(1);
-    }
-    QStringView below = path;
-    while (below.startsWith(u'/')) {
-        below = below.sliced(1);
-    }
-    return u"%1/%2"_qs.arg(base, below);
+    const auto site = ProductSite::fromOrigin(origin);
+    return site ? site->url(path).toString(QUrl::FullyEncoded) : QString();
 }

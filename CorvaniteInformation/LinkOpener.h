@@ -17,7 +17,6 @@ public:
     /// Opens a web address that is safe to open; any other does nothing.
     Q_INVOKABLE static void open(const QString& address);
 
-    /// The address of a page of the product site: its base address and the page's path joined with
-    /// exactly one "/".
+    /// The address of a page of the product site; empty for a base address that is no site's.
     Q_INVOKABLE static QString sitePage(const QString& origin, const QString& path);
 };

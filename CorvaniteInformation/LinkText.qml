@@ -2,13 +2,12 @@ import QtQuick
 import CorvaniteInformation
 
 /// A link that stands in the text, with an optional icon after it.
-AppButton {
+LabelButton {
     id: control
 
     property color restTint: InformationTheme.accent
 
-    implicitHeight: Math.max(28, implicitContentHeight)
-    padding: 0
+    implicitHeight: Math.max(28, label.implicitHeight)
     spacing: 4
     radius: 2
     textStyle: InformationTheme.small
@@ -18,8 +17,14 @@ AppButton {
 
     Accessible.role: Accessible.Link
 
-    contentItem: LinkLabel {
-        control: control
+    Rectangle {
+        parent: control.label
+        anchors.top: parent.baseline
+        anchors.topMargin: 2
+        width: parent.width
+        height: 1
+        visible: control.hovered && !control.down
+        color: control.tint
     }
 
     HoverHandler {

@@ -2,13 +2,13 @@ import QtQuick
 import CorvaniteInformation
 
 /// A secondary action: a label that shows its bounds only under the pointer.
-AppButton {
+LabelButton {
     /// The label's colour at rest.
     property color restTint: InformationTheme.ink
 
     implicitHeight: 36
-    horizontalPadding: 12
+    leftPadding: 12
     tint: !enabled ? InformationTheme.ink3 : down ? InformationTheme.ink2 : restTint
     ground: down ? InformationTheme.quietPressed : "transparent"
-    outline: enabled && hovered && !down ? InformationTheme.control : "transparent"
+    outline: hovered && !down ? InformationTheme.control : "transparent"
 }

@@ -23,7 +23,7 @@ T.Dialog {
 
     onAboutToShow: {
         opener = parent.Window.activeFocusItem;
-        openedByKeyboard = (opener as T.Control)?.visualFocus ?? false;
+        openedByKeyboard = (opener as Pressable)?.visualFocus ?? false;
     }
     onClosed: opener?.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason)
 

@@ -1,5 +1,6 @@
 #include "SignalStrataView.h"
 
+#include "LaneColor.h"
 #include "SignalStrata.h"
 
 #include <QPainter>
@@ -11,11 +12,10 @@ constexpr double groundRadius = 9;
 constexpr double bandRadius = 1.5;
 constexpr double groundOpacity = 0.06;
 
-QColor accentColor(InformationLane lane, double opacity)
+QColor translucent(QColor color, double opacity)
 {
-    const auto [red, green, blue] = accent(lane);
-    return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green),
-                            static_cast<float>(blue), static_cast<float>(opacity));
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
 }
 
 QPainterPath roundedPath(const QRectF& rectangle, double radius)
@@ -66,12 +66,13 @@ void SignalStrataView::paint(QPainter* painter)
 {
     const double scale = width() / SignalStrata::side;
     const auto ground = roundedPath(boundingRect(), groundRadius * scale);
-    painter->fillPath(ground, accentColor(m_lane, groundOpacity));
+    const auto color = laneColor(m_lane);
+    painter->fillPath(ground, translucent(color, groundOpacity));
 
     for (const auto& band : SignalStrata::bands(m_signalID)) {
         const QRectF rectangle(band.x * scale, band.y * scale, band.width * scale,
                                band.height * scale);
         painter->fillPath(roundedPath(rectangle, bandRadius * scale).intersected(ground),
-                          accentColor(m_lane, band.opacity));
+                          translucent(color, band.opacity));
     }
 }

@@ -1,14 +1,14 @@
 import QtQuick
 import CorvaniteInformation
 
-/// One segment of the surface switcher.
-AppButton {
+/// One segment of the surface switcher. The chosen one alone is a stop of the Tab key.
+LabelButton {
     required property bool selected
 
     implicitHeight: 30
-    horizontalPadding: 12
+    leftPadding: 12
     radius: InformationTheme.segmentRadius
-    focusPolicy: selected || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+    activeFocusOnTab: selected || activeFocus
     textStyle: selected ? InformationTheme.smallBold : InformationTheme.small
     tint: selected || hovered ? InformationTheme.ink : InformationTheme.ink2
     iconTint: selected ? InformationTheme.accent : tint

@@ -2,7 +2,7 @@ import QtQuick
 import CorvaniteInformation
 
 /// Fetches the newest content from the site. While that runs it takes no press and its icon turns.
-AppButton {
+LabelButton {
     id: control
 
     required property bool running
@@ -10,7 +10,7 @@ AppButton {
     property real turn
 
     implicitHeight: 34
-    horizontalPadding: 12
+    leftPadding: 12
     enabled: !running
     text: running ? "同步中" : "同步站点"
     iconPath: running ? IconPaths.arrowTriangle2Circlepath : IconPaths.arrowDownCircle
@@ -18,7 +18,7 @@ AppButton {
     textStyle: InformationTheme.syncLabel
     tint: down ? InformationTheme.ink : InformationTheme.ink2
     ground: down ? InformationTheme.syncPressed : InformationTheme.syncRest
-    outline: enabled && hovered && !down ? InformationTheme.control : "transparent"
+    outline: hovered && !down ? InformationTheme.control : "transparent"
 
     NumberAnimation on turn {
         id: spin

@@ -17,18 +17,23 @@ Item {
         MouseArea {
             required property int modelData
 
-            readonly property bool left: modelData & Qt.LeftEdge
-            readonly property bool right: modelData & Qt.RightEdge
-            readonly property bool top: modelData & Qt.TopEdge
-            readonly property bool bottom: modelData & Qt.BottomEdge
-            readonly property bool atCorner: (left || right) && (top || bottom)
+            readonly property bool atLeft: modelData & Qt.LeftEdge
+            readonly property bool atRight: modelData & Qt.RightEdge
+            readonly property bool atTop: modelData & Qt.TopEdge
+            readonly property bool atBottom: modelData & Qt.BottomEdge
+            readonly property bool atSide: atLeft || atRight
+            readonly property bool atCorner: atSide && (atTop || atBottom)
             readonly property int thickness: atCorner ? 12 : 6
 
-            x: right ? edges.width - width : 0
-            y: bottom ? edges.height - height : 0
-            width: left || right ? thickness : edges.width
-            height: top || bottom ? thickness : edges.height
-            cursorShape: atCorner ? (left === top ? Qt.SizeFDiagCursor : Qt.SizeBDiagCursor) : left || right ? Qt.SizeHorCursor : Qt.SizeVerCursor
+            x: atRight ? edges.width - width : 0
+            y: atBottom ? edges.height - height : 0
+            width: atSide ? thickness : edges.width
+            height: atTop || atBottom ? thickness : edges.height
+            cursorShape: {
+                if (atCorner)
+                    return atLeft === atTop ? Qt.SizeFDiagCursor : Qt.SizeBDiagCursor;
+                return atSide ? Qt.SizeHorCursor : Qt.SizeVerCursor;
+            }
             onPressed: edges.window.startSystemResize(modelData)
         }
     }

@@ -51,6 +51,7 @@ TestCase {
         id: chip
         Chip {
             text: "全部 22"
+            selected: true
         }
     }
 
@@ -62,9 +63,21 @@ TestCase {
         }
     }
 
+    Component {
+        id: named
+        QuietButton {
+            text: "这类少看"
+            Accessible.name: "这类少看：产品雷达"
+        }
+    }
+
     SignalSpy {
         id: clicks
         signalName: "clicked"
+    }
+
+    Item {
+        id: elsewhere
     }
 
     function made(component: Component, properties: var): AppButton {
@@ -92,6 +105,8 @@ TestCase {
 
     function test_nameRoleAndHeight(row) {
         const button = made(row.component);
+        compare(button.Accessible.role, row.role);
+        screenReader.start();
         compare(button.Accessible.role, row.role);
         compare(button.Accessible.name, row.label);
         compare(button.height, row.height);
@@ -131,6 +146,35 @@ TestCase {
         compare(clicks.count, 0);
     }
 
+    function test_aPressCanBeTakenBack() {
+        const button = made(quiet);
+        mousePress(button);
+        verify(button.down);
+        mouseMove(button, -20, -20);
+        verify(!button.down);
+        mouseRelease(button, -20, -20);
+        compare(clicks.count, 0);
+        keyPress(Qt.Key_Space);
+        verify(button.down);
+        elsewhere.forceActiveFocus();
+        verify(!button.down);
+        keyRelease(Qt.Key_Space);
+        compare(clicks.count, 0);
+    }
+
+    function test_hoverEndsWithTheButton_data() {
+        return [{tag: "disabled", property: "enabled"}, {tag: "hidden", property: "visible"}];
+    }
+
+    function test_hoverEndsWithTheButton(row) {
+        const button = made(quiet);
+        mouseMove(button, 5, 5);
+        verify(button.hovered);
+        verify(Qt.colorEqual(button.outline, InformationTheme.control));
+        button[row.property] = false;
+        verify(!button.hovered);
+    }
+
     function test_theRingShowsForTheKeyboardAlone_data() {
         return every();
     }
@@ -158,6 +202,15 @@ TestCase {
         const withIcon = made(citrine, {text: "添加信息", iconPath: IconPaths.plus});
         compare(withIcon.width, bare.width + 16 + 6);
         compare(bare.leftPadding, 16);
+    }
+
+    function test_aNameOfItsOwnStandsBeforeTheLabel() {
+        const button = made(named);
+        compare(button.Accessible.name, "这类少看：产品雷达");
+        screenReader.start();
+        compare(button.Accessible.name, "这类少看：产品雷达");
+        button.text = "少看";
+        compare(button.Accessible.name, "这类少看：产品雷达");
     }
 
     function test_theHelpIsTheDescription() {
@@ -188,18 +241,23 @@ TestCase {
     }
 
     function test_chipStates() {
-        const button = made(chip, {checked: true, square: "#112233"});
+        const button = made(chip, {square: "#112233"});
+        screenReader.start();
         verify(button.Accessible.checkable);
         verify(button.Accessible.checked);
+        mouseClick(button);
+        verify(button.selected);
+        verify(button.Accessible.checked);
+        elsewhere.forceActiveFocus();
         verify(Qt.colorEqual(button.ground, InformationTheme.selectedChip));
-        button.checked = false;
+        button.selected = false;
         verify(!button.Accessible.checked);
-        verify(!(button.focusPolicy & Qt.TabFocus));
+        verify(!button.activeFocusOnTab);
     }
 
     function test_aLongLabelIsCut() {
         const button = made(quiet, {text: "很长的名字".repeat(20), width: 120});
-        verify(button.contentItem.textItem.truncated);
-        verify(button.contentItem.textItem.width <= 96);
+        verify(button.label.truncated);
+        verify(button.label.width <= 96);
     }
 }

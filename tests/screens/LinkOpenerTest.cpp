@@ -71,6 +71,7 @@ private Q_SLOTS:
                                              << u"https://corvanite.example/method"_qs;
         QTest::newRow("the base has one") << u"https://corvanite.example/"_qs << u"method"_qs
                                           << u"https://corvanite.example/method"_qs;
+        QTest::newRow("no site") << u"ftp://corvanite.example"_qs << u"method"_qs << QString();
         QTest::newRow("both have one") << u"https://corvanite.example/"_qs << u"/feed.xml"_qs
                                        << u"https://corvanite.example/feed.xml"_qs;
         QTest::newRow("a base below the root") << u"http://127.0.0.1:8080/site"_qs << u"status"_qs

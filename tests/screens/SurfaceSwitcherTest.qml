@@ -81,7 +81,7 @@ TestCase {
 
     function test_tabStopsOnceAtTheChosenOne() {
         current = 1;
-        compare(segments().map(segment => Boolean(segment.focusPolicy & Qt.TabFocus)), [false, true, false]);
+        compare(segments().map(segment => segment.activeFocusOnTab), [false, true, false]);
     }
 
     function test_fitsItsLabelsOrSharesTheWidth() {

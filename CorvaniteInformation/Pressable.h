@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QQuickItem>
+#include <QtQml/qqmlregistration.h>
+
+/// What can be pressed by pointer, Space and Enter, without any look. Unlike the toolkit's controls
+/// it takes the role that QML gives it: those of Qt 6.4 tell a screen reader their own.
+class Pressable : public QQuickItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+    /// The pointer is over it.
+    Q_PROPERTY(bool hovered READ hovered NOTIFY hoveredChanged FINAL)
+    /// It is held by the pointer that is over it, or by Space.
+    Q_PROPERTY(bool down READ down NOTIFY downChanged FINAL)
+    /// It has the focus and got it from the keyboard.
+    Q_PROPERTY(bool visualFocus READ visualFocus NOTIFY visualFocusChanged FINAL)
+
+public:
+    explicit Pressable(QQuickItem* parent = nullptr);
+
+    bool hovered() const { return m_hovered; }
+    bool down() const { return m_down; }
+    bool visualFocus() const { return m_visualFocus; }
+
+Q_SIGNALS:
+    void clicked();
+    void hoveredChanged();
+    void downChanged();
+    void visualFocusChanged();
+
+protected:
+    void hoverEnterEvent(QHoverEvent* event) override;
+    void hoverLeaveEvent(QHoverEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseUngrabEvent() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
+private:
+    void setHovered(bool hovered);
+    void setDown(bool down);
+    void setVisualFocus(bool visualFocus);
+
+    bool m_hovered = false;
+    bool m_down = false;
+    bool m_visualFocus = false;
+    bool m_focusFromKeyboard = false;
+};
