@@ -42,12 +42,13 @@ void SignalStrataView::setSignalID(const QString& signalID)
     Q_EMIT signalIDChanged();
 }
 
-void SignalStrataView::setLane(InformationLane lane)
+void SignalStrataView::setLane(const QString& token)
 {
-    if (m_lane == lane) {
+    const auto lane = fromRawValue<InformationLane>(token);
+    if (!lane || m_lane == *lane) {
         return;
     }
-    m_lane = lane;
+    m_lane = *lane;
     update();
     Q_EMIT laneChanged();
 }

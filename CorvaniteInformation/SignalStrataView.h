@@ -14,7 +14,8 @@ class SignalStrataView : public QQuickPaintedItem
 
     Q_PROPERTY(
         QString signalID READ signalID WRITE setSignalID NOTIFY signalIDChanged REQUIRED FINAL)
-    Q_PROPERTY(InformationLane lane READ lane WRITE setLane NOTIFY laneChanged REQUIRED FINAL)
+    /// The lane's token.
+    Q_PROPERTY(QString lane READ lane WRITE setLane NOTIFY laneChanged REQUIRED FINAL)
     /// The length of the square's side in pixels.
     Q_PROPERTY(qreal side READ side WRITE setSide NOTIFY sideChanged REQUIRED FINAL)
 
@@ -22,11 +23,12 @@ public:
     explicit SignalStrataView(QQuickItem* parent = nullptr);
 
     const QString& signalID() const { return m_signalID; }
-    InformationLane lane() const { return m_lane; }
+    QString lane() const { return rawValue(m_lane); }
     qreal side() const { return implicitWidth(); }
 
     void setSignalID(const QString& signalID);
-    void setLane(InformationLane lane);
+    /// An unknown token changes nothing.
+    void setLane(const QString& token);
     void setSide(qreal side);
 
     void paint(QPainter* painter) override;

@@ -1,0 +1,53 @@
+#include "ReadingOrder.h"
+
+#include <algorithm>
+
+void ReadingOrder::setItems(QQuickItem* items)
+{
+    if (m_items == items) {
+        return;
+    }
+    if (m_items) {
+        m_items->disconnect(this);
+    }
+    m_items = items;
+    if (items) {
+        connect(items, &QQuickItem::childrenChanged, this, &ReadingOrder::watchChildren);
+        watchChildren();
+    }
+    Q_EMIT itemsChanged();
+}
+
+void ReadingOrder::watchChildren()
+{
+    const auto children = m_items->childItems();
+    for (const QQuickItem* child : children) {
+        connect(child, &QQuickItem::yChanged, this, &ReadingOrder::sortLater, Qt::UniqueConnection);
+    }
+    sortLater();
+}
+
+// A view moves many items at a time.
+void ReadingOrder::sortLater()
+{
+    if (!m_sortPending) {
+        m_sortPending = true;
+        QMetaObject::invokeMethod(this, &ReadingOrder::sort, Qt::QueuedConnection);
+    }
+}
+
+void ReadingOrder::sort()
+{
+    m_sortPending = false;
+    if (!m_items) {
+        return;
+    }
+    auto children = m_items->childItems();
+    if (std::ranges::is_sorted(children, {}, &QQuickItem::y)) {
+        return;
+    }
+    std::ranges::stable_sort(children, {}, &QQuickItem::y);
+    for (qsizetype i = 1; i < children.size(); ++i) {
+        children.at(i)->stackAfter(children.at(i - 1));
+    }
+}

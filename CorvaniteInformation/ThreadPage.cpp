@@ -1,0 +1,74 @@
+#include "ThreadPage.h"
+
+#include "OpenableAddress.h"
+
+#include <QScopedValueRollback>
+
+#include <utility>
+
+ThreadPage::Thread ThreadPage::Thread::from(const InformationSignal& signal)
+{
+    return {signal.title, signal.digest, TimelineRow::timelineOf(signal),
+            OpenableAddress::from(signal.originalURL),
+            RelatedSourceRow::listOf(signal.relatedSources)};
+}
+
+void ThreadPage::setSignalId(const QString& signalId)
+{
+    if (m_signalId == signalId) {
+        return;
+    }
+    m_signalId = signalId;
+    Q_EMIT signalIdChanged();
+    refresh();
+}
+
+void ThreadPage::markSeen()
+{
+    if (workbench()) {
+        workbench()->markSeen(m_signalId);
+    }
+}
+
+void ThreadPage::writeNote(const QString& note)
+{
+    if (workbench()) {
+        const QScopedValueRollback writing(m_writingNote, true);
+        workbench()->updateNote(m_signalId, note);
+    }
+}
+
+void ThreadPage::follow(const InformationModel& workbench)
+{
+    connect(&workbench, &InformationModel::contentChanged, this, &ThreadPage::refresh);
+    connect(&workbench, &InformationModel::workspaceChanged, this, &ThreadPage::refresh);
+}
+
+void ThreadPage::show(const InformationModel& workbench)
+{
+    const auto signal = workbench.signalById(m_signalId);
+    if (!signal) {
+        return;
+    }
+    auto thread = Thread::from(*signal);
+    if (m_thread != thread) {
+        m_thread = std::move(thread);
+        Q_EMIT threadChanged();
+    }
+    const auto entry = workbench.isKept(*signal) ? workbench.savedEntry(*signal) : std::nullopt;
+    showSaved(entry ? std::optional(Saved{entry->second.saveReason, entry->second.note})
+                    : std::nullopt);
+}
+
+void ThreadPage::showSaved(std::optional<Saved> saved)
+{
+    if (m_saved == saved) {
+        return;
+    }
+    const bool noteDiffers = saved && (!m_saved || m_saved->note != saved->note);
+    m_saved = std::move(saved);
+    Q_EMIT keptChanged();
+    if (noteDiffers && !m_writingNote) {
+        Q_EMIT noteReplaced();
+    }
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "RelatedSourceRow.h"
+#include "TimelineRow.h"
+#include "WorkbenchPage.h"
+
+#include <QList>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+/// A signal's whole thread, and the reader's note on it. A signal that a refresh
+/// takes away stays as it was while the thread is open.
+class ThreadPage : public WorkbenchPage
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+    Q_PROPERTY(
+        QString signalId READ signalId WRITE setSignalId NOTIFY signalIdChanged REQUIRED FINAL)
+
+    Q_PROPERTY(QString title READ title NOTIFY threadChanged FINAL)
+    Q_PROPERTY(bool hasDigest READ hasDigest NOTIFY threadChanged FINAL)
+    Q_PROPERTY(QString digest READ digest NOTIFY threadChanged FINAL)
+    Q_PROPERTY(QList<TimelineRow> timeline READ timeline NOTIFY threadChanged FINAL)
+    /// Empty when the original has no address to open.
+    Q_PROPERTY(QString originalAddress READ originalAddress NOTIFY threadChanged FINAL)
+    Q_PROPERTY(
+        QList<RelatedSourceRow> relatedSources READ relatedSources NOTIFY threadChanged FINAL)
+
+    Q_PROPERTY(bool kept READ kept NOTIFY keptChanged FINAL)
+    Q_PROPERTY(QString saveReason READ saveReason NOTIFY keptChanged FINAL)
+
+public:
+    using WorkbenchPage::WorkbenchPage;
+
+    const QString& signalId() const { return m_signalId; }
+    void setSignalId(const QString& signalId);
+
+    const QString& title() const { return m_thread.title; }
+    bool hasDigest() const { return m_thread.digest.has_value(); }
+    QString digest() const { return m_thread.digest.value_or(QString()); }
+    const QList<TimelineRow>& timeline() const { return m_thread.timeline; }
+    const QString& originalAddress() const { return m_thread.originalAddress; }
+    const QList<RelatedSourceRow>& relatedSources() const { return m_thread.relatedSources; }
+    bool kept() const { return m_saved.has_value(); }
+    QString saveReason() const { return m_saved ? m_saved->reason : QString(); }
+
+    /// Records that the reader has seen the signal.
+    Q_INVOKABLE void markSeen();
+    Q_INVOKABLE QString storedNote() const { return m_saved ? m_saved->note : QString(); }
+    /// Stores what the editor holds. Not answered by `noteReplaced`, also when it could not be
+    /// stored: what the reader typed stays in the editor.
+    Q_INVOKABLE void writeNote(const QString& note);
+
+Q_SIGNALS:
+    void signalIdChanged();
+    void threadChanged();
+    void keptChanged();
+    /// The stored note has changed otherwise than by `writeNote`.
+    void noteReplaced();
+
+protected:
+    void follow(const InformationModel& workbench) override;
+    void show(const InformationModel& workbench) override;
+
+private:
+    struct Thread
+    {
+        QString title;
+        std::optional<QString> digest;
+        QList<TimelineRow> timeline;
+        QString originalAddress;
+        QList<RelatedSourceRow> relatedSources;
+
+        static Thread from(const InformationSignal& signal);
+        friend bool operator==(const Thread&, const Thread&) = default;
+    };
+
+    struct Saved
+    {
+        QString reason;
+        QString note;
+
+        friend bool operator==(const Saved&, const Saved&) = default;
+    };
+
+    void showSaved(std::optional<Saved> saved);
+
+    QString m_signalId;
+    Thread m_thread;
+    /// Of a kept signal.
+    std::optional<Saved> m_saved;
+    bool m_writingNote = false;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "InformationSignal.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+/// One node of a signal's timeline.
+struct TimelineRow
+{
+    Q_GADGET
+    QML_VALUE_TYPE(timelineRow)
+
+    Q_PROPERTY(QString date MEMBER date CONSTANT FINAL)
+    Q_PROPERTY(QString summary MEMBER summary CONSTANT FINAL)
+    Q_PROPERTY(QString source MEMBER source CONSTANT FINAL)
+    Q_PROPERTY(bool isNow MEMBER isNow CONSTANT FINAL)
+
+public:
+    /// The signal's present state, then its recorded events in their order.
+    static QList<TimelineRow> timelineOf(const InformationSignal& signal);
+
+    QString date;
+    QString summary;
+    /// Empty for the present state.
+    QString source;
+    bool isNow = false;
+
+    friend bool operator==(const TimelineRow&, const TimelineRow&) = default;
+};

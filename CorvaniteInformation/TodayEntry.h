@@ -1,0 +1,59 @@
+#pragma once
+
+#include "RailRow.h"
+#include "SignalCardRow.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+/// One place of the today surface's column, or of the list of everything beside it.
+struct TodayEntry
+{
+    Q_GADGET
+    QML_VALUE_TYPE(todayEntry)
+
+    Q_PROPERTY(bool isIntro READ isIntro CONSTANT FINAL)
+    Q_PROPERTY(bool isCard READ isCard CONSTANT FINAL)
+    Q_PROPERTY(bool isDisclosure READ isDisclosure CONSTANT FINAL)
+    Q_PROPERTY(bool isRailHeading READ isRailHeading CONSTANT FINAL)
+    Q_PROPERTY(bool isRailLine READ isRailLine CONSTANT FINAL)
+    Q_PROPERTY(bool isRailEnd READ isRailEnd CONSTANT FINAL)
+    Q_PROPERTY(bool isOfRail READ isOfRail CONSTANT FINAL)
+    Q_PROPERTY(SignalCardRow card MEMBER card CONSTANT FINAL)
+    Q_PROPERTY(RailRow rail MEMBER rail CONSTANT FINAL)
+
+public:
+    enum class Kind {
+        /// Title, lead, lane filter, and what there is to say about an adjusted or empty list.
+        Intro,
+        Card,
+        /// Opens and closes the remaining cards.
+        Disclosure,
+        RailHeading,
+        RailLine,
+        /// The data receipt.
+        RailEnd
+    };
+
+    Kind kind = Kind::Intro;
+    /// With `Kind::Card`.
+    SignalCardRow card;
+    /// With `Kind::RailLine`.
+    RailRow rail;
+
+    bool isIntro() const { return kind == Kind::Intro; }
+    bool isCard() const { return kind == Kind::Card; }
+    bool isDisclosure() const { return kind == Kind::Disclosure; }
+    bool isRailHeading() const { return kind == Kind::RailHeading; }
+    bool isRailLine() const { return kind == Kind::RailLine; }
+    bool isRailEnd() const { return kind == Kind::RailEnd; }
+    bool isOfRail() const { return isRailHeading() || isRailLine() || isRailEnd(); }
+
+    QString key() const
+    {
+        return QString::number(static_cast<int>(kind)) + u':' + card.signalId + rail.signalId;
+    }
+
+    friend bool operator==(const TodayEntry&, const TodayEntry&) = default;
+};

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "DataReceiptRow.h"
+#include "LaneChipRow.h"
+#include "RowListModel.h"
+#include "TodayEntry.h"
+#include "WorkbenchPage.h"
+
+#include <QList>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+/// The today surface.
+class TodayPage : public WorkbenchPage
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+    /// The remaining cards are shown too.
+    Q_PROPERTY(bool showingRemaining READ showingRemaining WRITE setShowingRemaining NOTIFY
+                   showingRemainingChanged FINAL)
+    /// The list of everything follows the cards instead of standing beside them.
+    Q_PROPERTY(bool railBelow READ railBelow WRITE setRailBelow NOTIFY railBelowChanged FINAL)
+    /// The list of everything does not end in the data receipt: it has a place of its own.
+    Q_PROPERTY(bool receiptPinned READ receiptPinned WRITE setReceiptPinned NOTIFY
+                   receiptPinnedChanged FINAL)
+
+    Q_PROPERTY(QString eyebrow READ eyebrow CONSTANT FINAL)
+    Q_PROPERTY(QString title READ title NOTIFY textsChanged FINAL)
+    Q_PROPERTY(QString lead READ lead NOTIFY textsChanged FINAL)
+    /// Whether the reader has adjusted the selection; `preferenceStatus` says how.
+    Q_PROPERTY(bool adjusted READ adjusted NOTIFY textsChanged FINAL)
+    Q_PROPERTY(QString preferenceStatus READ preferenceStatus NOTIFY textsChanged FINAL)
+    /// Nothing is left of today's selection.
+    Q_PROPERTY(bool empty READ empty NOTIFY textsChanged FINAL)
+    Q_PROPERTY(QString remainingTitle READ remainingTitle NOTIFY textsChanged FINAL)
+    Q_PROPERTY(int railCount READ railCount NOTIFY textsChanged FINAL)
+    Q_PROPERTY(QList<DataReceiptRow> receiptRows READ receiptRows NOTIFY textsChanged FINAL)
+    Q_PROPERTY(QString updatedText READ updatedText CONSTANT FINAL)
+
+    /// Rows of `laneChipRow`.
+    Q_PROPERTY(QAbstractItemModel* lanes READ lanes CONSTANT FINAL)
+    /// Rows of `todayEntry`: the column from top to bottom.
+    Q_PROPERTY(QAbstractItemModel* entries READ entries CONSTANT FINAL)
+    /// Rows of `todayEntry`: the list of everything where it stands beside the column.
+    Q_PROPERTY(QAbstractItemModel* railEntries READ railEntries CONSTANT FINAL)
+
+public:
+    using WorkbenchPage::WorkbenchPage;
+
+    bool showingRemaining() const { return m_showingRemaining; }
+    void setShowingRemaining(bool showing);
+    bool railBelow() const { return m_railBelow; }
+    void setRailBelow(bool below);
+    bool receiptPinned() const { return m_receiptPinned; }
+    void setReceiptPinned(bool pinned);
+
+    static QString eyebrow();
+    const QString& title() const { return m_texts.title; }
+    const QString& lead() const { return m_texts.lead; }
+    bool adjusted() const { return !m_texts.preferenceStatus.isEmpty(); }
+    const QString& preferenceStatus() const { return m_texts.preferenceStatus; }
+    bool empty() const { return m_texts.empty; }
+    const QString& remainingTitle() const { return m_texts.remainingTitle; }
+    int railCount() const { return m_texts.railCount; }
+    const QList<DataReceiptRow>& receiptRows() const { return m_texts.receiptRows; }
+    static QString updatedText();
+
+    RowListModel<LaneChipRow>* lanes() { return &m_lanes; }
+    RowListModel<TodayEntry>* entries() { return &m_entries; }
+    RowListModel<TodayEntry>* railEntries() { return &m_railEntries; }
+
+    /// @param lane the lane's token; empty for all lanes
+    Q_INVOKABLE void selectLane(const QString& lane);
+
+Q_SIGNALS:
+    void showingRemainingChanged();
+    void railBelowChanged();
+    void receiptPinnedChanged();
+    void textsChanged();
+
+protected:
+    void follow(const InformationModel& workbench) override;
+    void show(const InformationModel& workbench) override;
+
+private:
+    struct Texts
+    {
+        QString title;
+        QString lead;
+        QString preferenceStatus;
+        QString remainingTitle;
+        QList<DataReceiptRow> receiptRows;
+        int railCount = 0;
+        bool empty = false;
+
+        friend bool operator==(const Texts&, const Texts&) = default;
+    };
+
+    QList<TodayEntry> column(const InformationModel& workbench,
+                             const QList<InformationSignal>& focused,
+                             const QList<InformationSignal>& remaining) const;
+    QList<TodayEntry> rail(const InformationModel& workbench,
+                           const QList<InformationSignal>& signals) const;
+
+    bool m_showingRemaining = false;
+    bool m_railBelow = false;
+    bool m_receiptPinned = false;
+    Texts m_texts;
+    RowListModel<LaneChipRow> m_lanes;
+    RowListModel<TodayEntry> m_entries;
+    RowListModel<TodayEntry> m_railEntries;
+};
