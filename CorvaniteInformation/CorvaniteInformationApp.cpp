@@ -2,6 +2,7 @@
 #include "InformationModel.h"
 #include "InformationSeed.h"
 #include "LocalFileManager.h"
+#include "NetworkSiteClient.h"
 #include "ProgramInstance.h"
 #include "SchemePalette.h"
 #include "WindowActivation.h"
@@ -59,9 +60,17 @@ int main(int argc, char* argv[])
         QGuiApplication::setPalette(schemePalette(colorScheme));
     });
 
+    const auto site = ProductSite::fromOrigin(QStringLiteral(CORVANITE_SITE_ORIGIN));
+    if (!site) {
+        qFatal("The program was built for a site that is not secure: %s", CORVANITE_SITE_ORIGIN);
+    }
+    NetworkSiteClient siteClient(*site, NetworkSiteClient::Limits());
     InformationModel model({.fileManager = fileManager,
                             .now = secondsNow,
-                            .seedHistory = InformationSeed::selectionHistory()},
+                            .seedHistory = InformationSeed::selectionHistory(),
+                            .site = siteClient,
+                            .allowedHost = site->host(),
+                            .runningVersion = QGuiApplication::applicationVersion()},
                            InformationContent::atStart(fileManager), repository(fileManager));
 
     QQmlApplicationEngine engine;

@@ -455,6 +455,12 @@ void InformationModel::dismissIntakeError()
     setIntakeErrorMessage(std::nullopt);
 }
 
+void InformationModel::dismissUpdate()
+{
+    assertMainThread();
+    setAvailableUpdate(std::nullopt);
+}
+
 // Transactions
 
 bool InformationModel::transact(const Mutation& mutation, const std::function<void()>& announce)
@@ -551,6 +557,30 @@ void InformationModel::setSelectedArchiveDay(std::optional<QString> date)
     if (m_selectedArchiveDay != date) {
         m_selectedArchiveDay = std::move(date);
         Q_EMIT selectedArchiveDayChanged();
+    }
+}
+
+void InformationModel::setPackSyncNote(std::optional<QString> note)
+{
+    if (m_packSyncNote != note) {
+        m_packSyncNote = std::move(note);
+        Q_EMIT packSyncNoteChanged();
+    }
+}
+
+void InformationModel::setSyncingPack(bool isSyncingPack)
+{
+    if (m_isSyncingPack != isSyncingPack) {
+        m_isSyncingPack = isSyncingPack;
+        Q_EMIT isSyncingPackChanged();
+    }
+}
+
+void InformationModel::setAvailableUpdate(std::optional<InformationUpdateNotice> notice)
+{
+    if (m_availableUpdate != notice) {
+        m_availableUpdate = std::move(notice);
+        Q_EMIT availableUpdateChanged();
     }
 }
 

@@ -4,10 +4,12 @@
 #include "InformationFileManager.h"
 #include "InformationIntakeFailure.h"
 #include "InformationSignal.h"
+#include "InformationUpdateNotice.h"
 #include "InformationWorkspace.h"
 #include "InformationWorkspaceRepository.h"
 #include "NormalizedInformationIntake.h"
 #include "SelectionDay.h"
+#include "SiteClient.h"
 #include "WeeklyDigest.h"
 
 #include <QHash>
@@ -37,6 +39,17 @@ class InformationModel : public QObject
     Q_PROPERTY(bool canUndo READ canUndo NOTIFY canUndoChanged FINAL)
     Q_PROPERTY(
         QString intakeErrorMessage READ intakeErrorText NOTIFY intakeErrorMessageChanged FINAL)
+    Q_PROPERTY(bool isSyncingPack READ isSyncingPack NOTIFY isSyncingPackChanged FINAL)
+    Q_PROPERTY(QString packSyncNote READ packSyncNoteText NOTIFY packSyncNoteChanged FINAL)
+    Q_PROPERTY(bool packSyncFailed READ packSyncFailed NOTIFY packSyncNoteChanged FINAL)
+    Q_PROPERTY(QString syncHelp READ syncHelp CONSTANT FINAL)
+    Q_PROPERTY(bool hasAvailableUpdate READ hasAvailableUpdate NOTIFY availableUpdateChanged FINAL)
+    Q_PROPERTY(
+        QString availableUpdateText READ availableUpdateText NOTIFY availableUpdateChanged FINAL)
+    Q_PROPERTY(
+        QString availableUpdateHelp READ availableUpdateHelp NOTIFY availableUpdateChanged FINAL)
+    Q_PROPERTY(QString availableUpdateAddress READ availableUpdateAddress NOTIFY
+                   availableUpdateChanged FINAL)
 
 public:
     enum class Surface { Today, Kept, Weekly, Archive, Sources };
@@ -50,6 +63,11 @@ public:
         std::function<double()> now;
         /// The compiled-in selection history.
         QList<SelectionDay> seedHistory;
+        SiteClient& site;
+        /// The product site's host, the only one that an update may come from.
+        QString allowedHost;
+        /// Of the program; empty where it is not known.
+        QString runningVersion;
     };
 
     /// Loads the workspace. A stored one that cannot be read is reported and never overwritten:
@@ -74,12 +92,27 @@ public:
     const std::optional<QString>& receipt() const { return m_receipt; }
     bool canUndo() const { return m_undoWorkspace.has_value(); }
     const std::optional<QString>& intakeErrorMessage() const { return m_intakeErrorMessage; }
+    bool isSyncingPack() const { return m_isSyncingPack; }
+    /// How the last refresh ended; nothing while one runs.
+    const std::optional<QString>& packSyncNote() const { return m_packSyncNote; }
+    /// A newer build that the site offers and the reader has not waved away.
+    const std::optional<InformationUpdateNotice>& availableUpdate() const
+    {
+        return m_availableUpdate;
+    }
 
     bool hasReceipt() const { return m_receipt.has_value(); }
     QString receiptText() const { return m_receipt.value_or(QString()); }
     bool hasErrorMessage() const { return m_errorMessage.has_value(); }
     QString errorText() const { return m_errorMessage.value_or(QString()); }
     QString intakeErrorText() const { return m_intakeErrorMessage.value_or(QString()); }
+    QString packSyncNoteText() const { return m_packSyncNote.value_or(QString()); }
+    bool packSyncFailed() const;
+    QString syncHelp() const;
+    bool hasAvailableUpdate() const { return m_availableUpdate.has_value(); }
+    QString availableUpdateText() const;
+    QString availableUpdateHelp() const;
+    QString availableUpdateAddress() const;
 
     // Derived reads, cached until the content or the workspace changes
 
@@ -138,9 +171,17 @@ public:
     Q_INVOKABLE void openArchiveDay(const QString& date);
     Q_INVOKABLE void closeArchiveDay();
 
+    /// Fetches the site's pack and, where it is newer than the content, shows and stores it with
+    /// the retired list beside it. Ends by saying in `packSyncNote` how it went; a failure changes
+    /// neither content nor files. Does nothing while a refresh runs.
+    Q_INVOKABLE void refreshPackFromSite();
+    /// Looks once in the model's life for a newer build of the program; a failure is silent.
+    Q_INVOKABLE void probeAppUpdateOnce();
+
     Q_INVOKABLE void dismissReceipt();
     Q_INVOKABLE void dismissError();
     Q_INVOKABLE void dismissIntakeError();
+    Q_INVOKABLE void dismissUpdate();
 
 Q_SIGNALS:
     void surfaceChanged();
@@ -154,6 +195,9 @@ Q_SIGNALS:
     void receiptChanged();
     void canUndoChanged();
     void intakeErrorMessageChanged();
+    void isSyncingPackChanged();
+    void packSyncNoteChanged();
+    void availableUpdateChanged();
 
 private:
     using Mutation = std::function<void(InformationWorkspace&)>;
@@ -162,11 +206,19 @@ private:
     bool transact(const Mutation& mutation, const std::function<void()>& announce = [] {});
     bool transactUndoable(const QString& receipt, const Mutation& mutation);
 
+    QCoro::Task<> refreshPack();
+    /// Ends a refresh with its note and, where a newer pack came, the content.
+    void endRefresh(const QString& note, std::optional<InformationContent> content = std::nullopt);
+    QCoro::Task<> probeAppUpdate();
+
     void setWorkspace(InformationWorkspace workspace);
     void setReceipt(std::optional<QString> receipt);
     void setErrorMessage(std::optional<QString> message);
     void setIntakeErrorMessage(std::optional<QString> message);
     void setSelectedArchiveDay(std::optional<QString> date);
+    void setPackSyncNote(std::optional<QString> note);
+    void setSyncingPack(bool isSyncingPack);
+    void setAvailableUpdate(std::optional<InformationUpdateNotice> notice);
     void setUndoWorkspace(std::optional<InformationWorkspace> workspace);
     void clearUndo() { setUndoWorkspace(std::nullopt); }
     void dropCaches();
@@ -194,6 +246,10 @@ private:
     std::optional<QString> m_errorMessage;
     std::optional<QString> m_receipt;
     std::optional<QString> m_intakeErrorMessage;
+    bool m_isSyncingPack = false;
+    std::optional<QString> m_packSyncNote;
+    std::optional<InformationUpdateNotice> m_availableUpdate;
+    bool m_updateProbeRan = false;
 
     mutable std::optional<QHash<QString, InformationSignal>> m_signalIndexCache;
     mutable std::optional<QList<InformationSignal>> m_visibleSignalsCache;

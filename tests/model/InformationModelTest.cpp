@@ -1,4 +1,5 @@
 #include "InformationModel.h"
+#include "FakeSiteClient.h"
 #include "InformationIntake.h"
 #include "InformationProjection.h"
 #include "MemoryFileManager.h"
@@ -22,6 +23,7 @@ class InformationModelTest : public QObject
 
 private:
     MemoryFileManager m_files;
+    FakeSiteClient m_site;
     double m_now = keptTime;
     QList<InformationSignal> m_signals;
     QList<InformationSignal> m_retired;
@@ -40,7 +42,10 @@ private:
         return std::make_unique<InformationModel>(
             InformationModel::Collaborators{.fileManager = m_files,
                                             .now = [this] { return m_now; },
-                                            .seedHistory = m_seedHistory},
+                                            .seedHistory = m_seedHistory,
+                                            .site = m_site,
+                                            .allowedHost = u"corvanite.example"_qs,
+                                            .runningVersion = u"1.0.0"_qs},
             InformationContent(m_signals, m_retired, m_days, m_asOf), repository);
     }
 

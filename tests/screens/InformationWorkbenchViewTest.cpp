@@ -1,4 +1,5 @@
 #include "AppearancePortal.h"
+#include "FakeSiteClient.h"
 #include "InformationModel.h"
 #include "MemoryFileManager.h"
 
@@ -50,9 +51,13 @@ private Q_SLOTS:
     {
         m_warnings.clear();
         m_files.emplace();
+        m_site.emplace();
         m_model.emplace(InformationModel::Collaborators{.fileManager = *m_files,
                                                         .now = [] { return 0.0; },
-                                                        .seedHistory = {}},
+                                                        .seedHistory = {},
+                                                        .site = *m_site,
+                                                        .allowedHost = u"corvanite.example"_qs,
+                                                        .runningVersion = u"1.0.0"_qs},
                         InformationContent({signalWithId(u"a"_qs)}, {}, {}, {}),
                         InformationWorkspaceRepository{u"/support/workspace"_qs});
         load();
@@ -274,6 +279,7 @@ private:
     }
 
     std::optional<MemoryFileManager> m_files;
+    std::optional<FakeSiteClient> m_site;
     std::optional<InformationModel> m_model;
     AppearancePortal m_appearance{QDBusConnection(u"nowhere"_qs)};
     std::optional<QQmlApplicationEngine> m_engine;

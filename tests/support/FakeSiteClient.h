@@ -4,8 +4,10 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 
 #include <coroutine>
+#include <utility>
 
 /// A site that answers as the test says, at once or when the test says so.
 class FakeSiteClient final : public SiteClient
@@ -22,8 +24,8 @@ public:
     /// By path; a path without an answer is a transport error.
     QHash<QString, Answer> answers;
     QList<Request> requests;
-    /// While true, answers wait for `release`.
-    bool isHolding = false;
+    /// Paths whose answers wait for `release`.
+    QSet<QString> heldPaths;
 
     ~FakeSiteClient() override
     {
@@ -31,15 +33,10 @@ public:
         release();
     }
 
-    void setAnswer(QLatin1StringView path, const QByteArray& body, std::optional<int> status = 200)
-    {
-        answers.insert(path, SiteReply{body, status});
-    }
-
-    /// Gives the answers that wait.
+    /// Gives the answers that wait, and holds no more.
     void release()
     {
-        isHolding = false;
+        heldPaths.clear();
         for (const auto waiting : std::exchange(m_waiting, {})) {
             waiting.resume();
         }
@@ -48,7 +45,7 @@ public:
     QCoro::Task<Answer> get(QString path, qsizetype byteLimit) override
     {
         requests.append({path, byteLimit});
-        co_await Turn{*this};
+        co_await Turn{*this, path};
         co_return answers.value(path, std::unexpected(SiteError::Transport));
     }
 
@@ -56,8 +53,9 @@ private:
     struct Turn
     {
         FakeSiteClient& client;
+        const QString& path;
 
-        bool await_ready() const { return !client.isHolding; }
+        bool await_ready() const { return !client.heldPaths.contains(path); }
         void await_suspend(std::coroutine_handle<> waiting) { client.m_waiting.append(waiting); }
         void await_resume() const {}
     };

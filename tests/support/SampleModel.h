@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FakeSiteClient.h"
 #include "InformationModel.h"
 #include "MemoryFileManager.h"
 #include "SampleSignal.h"
@@ -10,6 +11,7 @@
 struct SampleModel
 {
     MemoryFileManager files;
+    std::unique_ptr<FakeSiteClient> site = std::make_unique<FakeSiteClient>();
     /// 2026-09-02T02:00:00Z.
     double now = 1788314400;
     QList<InformationSignal> signals{sampleSignal(u"a"_qs), sampleSignal(u"b"_qs)};
@@ -22,7 +24,13 @@ struct SampleModel
     {
         return std::make_unique<InformationModel>(
             InformationModel::Collaborators{
-                .fileManager = files, .now = [this] { return now; }, .seedHistory = {}},
+                .fileManager = files,
+                .now = [this] { return now; },
+                .seedHistory = {},
+                .site = *site,
+                .allowedHost = u"corvanite.example"_qs,
+                .runningVersion = u"1.0.0"_qs,
+            },
             InformationContent(signals, retiredSignals, selectionDays, packAsOf),
             InformationWorkspaceRepository::live(files).value());
     }

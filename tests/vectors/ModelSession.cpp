@@ -1,9 +1,12 @@
 #include "ModelSession.h"
 
 #include "InformationProjection.h"
+#include "InformationSeed.h"
+#include "ProductSite.h"
 #include "VectorFixtures.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QMetaEnum>
 
 #include <stdexcept>
@@ -22,28 +25,52 @@ QString surfaceName(InformationModel::Surface surface)
 } // namespace
 
 ModelSession::ModelSession(const QJsonObject& start)
+    : m_files(m_memory),
+      m_seedHistory(VectorFixtures::selectionDays(start.value(QLatin1StringView("seedHistory")))),
+      m_repository(InformationWorkspaceRepository::live(m_files).value())
 {
     using namespace VectorFixtures;
-    const bool hasStorage = start.value(QLatin1StringView("storage")).toBool(true);
-    const auto repository = InformationWorkspaceRepository::live(m_files).value();
     if (start.contains(QLatin1StringView("workspace"))) {
-        repository.save(workspace(start.value(QLatin1StringView("workspace")).toObject()), m_files)
+        m_repository
+            ->save(workspace(start.value(QLatin1StringView("workspace")).toObject()), m_files)
             .value();
     }
+    if (!start.value(QLatin1StringView("storage")).toBool(true)) {
+        m_repository.reset();
+    }
+    this->start(InformationContent(shortSignals(start.value(QLatin1StringView("signals"))),
+                                   shortSignals(start.value(QLatin1StringView("retired"))),
+                                   selectionDays(start.value(QLatin1StringView("selectionDays"))),
+                                   start.value(QLatin1StringView("asOf")).toString()));
+    m_model->setActiveLane(
+        fromRawValue<InformationLane>(start.value(QLatin1StringView("activeLane")).toString()));
+    m_model->setSearch(start.value(QLatin1StringView("search")).toString());
+}
+
+ModelSession::ModelSession(const InformationFileManager& files, bool hasStorage)
+    : m_files(files), m_seedHistory(InformationSeed::selectionHistory())
+{
+    if (hasStorage) {
+        m_repository = InformationWorkspaceRepository::live(m_files).value();
+    }
+    start(InformationContent::atStart(m_files));
+    for (const auto& source : m_model->workspace().customSources) {
+        m_storedUuids.append(source.id);
+    }
+}
+
+void ModelSession::start(const InformationContent& content)
+{
     m_model = std::make_unique<InformationModel>(
         InformationModel::Collaborators{
             .fileManager = m_files,
             .now = [this] { return m_now; },
-            .seedHistory = selectionDays(start.value(QLatin1StringView("seedHistory"))),
+            .seedHistory = m_seedHistory,
+            .site = m_site,
+            .allowedHost = u"corvanite.example"_qs,
+            .runningVersion = u"1.0.0"_qs,
         },
-        InformationContent(shortSignals(start.value(QLatin1StringView("signals"))),
-                           shortSignals(start.value(QLatin1StringView("retired"))),
-                           selectionDays(start.value(QLatin1StringView("selectionDays"))),
-                           start.value(QLatin1StringView("asOf")).toString()),
-        hasStorage ? std::optional(repository) : std::nullopt);
-    m_model->setActiveLane(
-        fromRawValue<InformationLane>(start.value(QLatin1StringView("activeLane")).toString()));
-    m_model->setSearch(start.value(QLatin1StringView("search")).toString());
+        content, m_repository);
 }
 
 QJsonValue ModelSession::perform(const QJsonObject& action)
@@ -67,6 +94,8 @@ QJsonValue ModelSession::perform(const QJsonObject& action)
         m_model->updateNote(signal, action.value(QLatin1StringView("note")).toString());
     } else if (name == u"addSource") {
         return m_model->addSource(action.value(QLatin1StringView("input")).toString());
+    } else if (name == u"addSources") {
+        addSources(action);
     } else if (name == u"removeSource") {
         m_model->removeSource(uuidOfNumber(action.value(QLatin1StringView("id")).toString()));
     } else if (name == u"resetPreferences") {
@@ -82,6 +111,10 @@ QJsonValue ModelSession::perform(const QJsonObject& action)
             fromRawValue<InformationLane>(action.value(QLatin1StringView("lane")).toString()));
     } else if (name == u"closeReceipt") {
         m_model->dismissReceipt();
+    } else if (name == u"refresh") {
+        refresh(action);
+    } else if (name == u"restart") {
+        start(InformationContent::atStart(m_files));
     } else if (name == u"storageFails") {
         m_failureReason = action.value(QLatin1StringView("reason")).toString();
         m_files.writeFailure = injectedFailure;
@@ -131,30 +164,72 @@ QJsonObject ModelSession::state()
         {u"keptCustomInputs"_qs, customInputs},
         {u"isKept"_qs, kept},
         {u"seen"_qs, seen},
-        {u"workspace"_qs, workspaceWithNumberedUuids()},
+        {u"workspace"_qs, withNumberedUuids(toJson(workspace))},
     };
+}
+
+void ModelSession::addSources(const QJsonObject& action)
+{
+    const QString input = action.value(QLatin1StringView("input")).toString();
+    const auto last = action.value(QLatin1StringView("to")).toInteger();
+    for (auto number = action.value(QLatin1StringView("from")).toInteger(); number <= last;
+         ++number) {
+        m_model->addSource(QString(input).replace(u'#', QString::number(number)));
+    }
+}
+
+void ModelSession::refresh(const QJsonObject& action)
+{
+    const auto answer = [&action](QLatin1StringView document) {
+        const QJsonValue reply = action.value(document);
+        return VectorFixtures::siteAnswer(
+            reply,
+            VectorFixtures::scriptDocument(reply.toObject().value(QLatin1StringView("doc"))));
+    };
+    m_site.answers = {
+        {ProductSite::packPath, answer(QLatin1StringView("pack"))},
+        {ProductSite::retiredSignalsPath, answer(QLatin1StringView("retired"))},
+    };
+    m_model->refreshPackFromSite();
+}
+
+QJsonValue ModelSession::storedWorkspace()
+{
+    if (!m_repository) {
+        return QJsonValue::Null;
+    }
+    const auto bytes = m_files.readFile(m_repository->filePath).value();
+    return bytes ? withNumberedUuids(QJsonDocument::fromJson(*bytes).object())
+                 : QJsonValue(QJsonValue::Null);
 }
 
 // Fresh UUIDs are numbered in order of first appearance.
 QString ModelSession::numberedUuid(const QUuid& id)
 {
-    if (!m_uuids.contains(id)) {
-        m_uuids.append(id);
+    if (m_storedUuids.contains(id)) {
+        return id.toString(QUuid::WithoutBraces).toUpper();
     }
-    return u"00000000-0000-4000-8000-%1"_qs.arg(m_uuids.indexOf(id) + 1, 12, 10, QChar(u'0'));
+    if (!m_freshUuids.contains(id)) {
+        m_freshUuids.append(id);
+    }
+    return u"00000000-0000-4000-8000-%1"_qs.arg(m_freshUuids.indexOf(id) + 1, 12, 10, QChar(u'0'));
 }
 
 QUuid ModelSession::uuidOfNumber(const QString& numbered) const
 {
     const auto index = numbered.section(u'-', -1).toLongLong() - 1;
-    return index >= 0 && index < m_uuids.size() ? m_uuids.at(index) : QUuid(numbered);
+    return index >= 0 && index < m_freshUuids.size() ? m_freshUuids.at(index) : QUuid(numbered);
 }
 
-QJsonObject ModelSession::workspaceWithNumberedUuids()
+QJsonObject ModelSession::withNumberedUuids(QJsonObject fileForm)
 {
-    auto workspace = m_model->workspace();
-    for (auto& source : workspace.customSources) {
-        source.id = QUuid(numberedUuid(source.id));
+    QJsonArray sources;
+    for (const auto& value : fileForm.value(QLatin1StringView("customSources")).toArray()) {
+        auto source = value.toObject();
+        const QUuid id(source.value(QLatin1StringView("id")).toString());
+        source.insert(QLatin1StringView("id"), numberedUuid(id));
+        sources.append(source);
     }
-    return VectorFixtures::toJson(workspace);
+    fileForm.insert(QLatin1StringView("customSources"), sources);
+    return fileForm;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FailingFileManager.h"
+#include "FakeSiteClient.h"
 #include "InformationModel.h"
 #include "MemoryFileManager.h"
 
@@ -10,13 +12,18 @@
 
 #include <memory>
 
-/// A model over files in memory, driven by the actions of a case and read after each.
+/// A model driven by the actions of a case and read after each.
 class ModelSession
 {
 public:
+    /// Over files in memory.
     /// @param start short signals "signals" and "retired", "selectionDays", "asOf", and where given
     /// "seedHistory", "workspace", "activeLane", "search" and "storage"
     explicit ModelSession(const QJsonObject& start);
+
+    /// As the program starts over the files.
+    /// @param files outlive this
+    ModelSession(const InformationFileManager& files, bool hasStorage);
 
     InformationModel& model() { return *m_model; }
 
@@ -26,16 +33,28 @@ public:
 
     /// What can be read of the model after an action.
     QJsonObject state();
+    /// The workspace's file as it lies there; null without one.
+    QJsonValue storedWorkspace();
 
 private:
+    void start(const InformationContent& content);
+    /// The site answers with the replies of the action while the refresh runs.
+    void refresh(const QJsonObject& action);
+    void addSources(const QJsonObject& action);
     QString numberedUuid(const QUuid& id);
     QUuid uuidOfNumber(const QString& numbered) const;
-    QJsonObject workspaceWithNumberedUuids();
+    QJsonObject withNumberedUuids(QJsonObject fileForm);
 
-    MemoryFileManager m_files;
+    const MemoryFileManager m_memory;
+    FailingFileManager m_files;
+    FakeSiteClient m_site;
+    QList<SelectionDay> m_seedHistory;
+    std::optional<InformationWorkspaceRepository> m_repository;
     double m_now = 0;
     /// What the injected storage failure is called in the case.
     QString m_failureReason;
-    QList<QUuid> m_uuids;
+    /// Those stored from the start, which the case names as they are.
+    QList<QUuid> m_storedUuids;
+    QList<QUuid> m_freshUuids;
     std::unique_ptr<InformationModel> m_model;
 };

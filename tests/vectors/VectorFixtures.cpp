@@ -39,6 +39,20 @@ std::optional<QByteArray> document(const QJsonObject& doc)
     return doc.value(QLatin1StringView("text")).toString().toUtf8();
 }
 
+QByteArray scriptDocument(const QJsonValue& doc)
+{
+    return doc.isString() ? doc.toString().toUtf8() : QJsonDocument(doc.toObject()).toJson();
+}
+
+SiteClient::Answer siteAnswer(const QJsonValue& reply, const QByteArray& body)
+{
+    if (!reply.isObject()) {
+        return std::unexpected(SiteError::Transport);
+    }
+    const QJsonValue status = reply.toObject().value(QLatin1StringView("status"));
+    return SiteReply{body, status.isNull() ? std::optional<int>() : status.toInt(200)};
+}
+
 InformationSignal shortSignal(const QJsonObject& shortForm)
 {
     const QString id = shortForm.value(QLatin1StringView("id")).toString();

@@ -3,6 +3,7 @@
 #include "InformationSignal.h"
 #include "InformationWorkspace.h"
 #include "SelectionDay.h"
+#include "SiteClient.h"
 
 #include <QByteArray>
 #include <QJsonArray>
@@ -17,6 +18,13 @@ namespace VectorFixtures {
 
 /// The bytes of a document given as "text", "base64" or "parts"; nothing for "missing".
 std::optional<QByteArray> document(const QJsonObject& doc);
+
+/// The bytes of a document in a script: a text as it is, any other value as JSON.
+QByteArray scriptDocument(const QJsonValue& doc);
+
+/// What the site answers: null, or nothing, stands for a transport error. The status is 200 where
+/// none is given; a null status is that of an answer that is not HTTP.
+SiteClient::Answer siteAnswer(const QJsonValue& reply, const QByteArray& body);
 
 /// A signal in its short form, everything left out filled with defaults.
 InformationSignal shortSignal(const QJsonObject& shortForm);

@@ -18,6 +18,7 @@ void addLabelFunctions(VectorFunctions& functions);
 void addModelFunctions(VectorFunctions& functions);
 void addPackFunctions(VectorFunctions& functions);
 void addProjectionFunctions(VectorFunctions& functions);
+void addRefreshFunctions(VectorFunctions& functions);
 void addStrataFunctions(VectorFunctions& functions);
 void addUpdateFunctions(VectorFunctions& functions);
 void addWorkspaceFunctions(VectorFunctions& functions);

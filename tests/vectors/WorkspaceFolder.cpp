@@ -1,5 +1,6 @@
 #include "WorkspaceFolder.h"
 
+#include "FakeSiteClient.h"
 #include "InformationModel.h"
 #include "InformationSignalCoding.h"
 #include "MemoryFileManager.h"
@@ -52,9 +53,14 @@ QJsonValue startMessage(const QByteArray& document)
     MemoryFileManager fileManager;
     const auto repository = InformationWorkspaceRepository::live(fileManager).value();
     fileManager.files.insert(repository.filePath, document);
-    const InformationModel model(
-        {.fileManager = fileManager, .now = [] { return 0.0; }, .seedHistory = {}},
-        InformationContent({}, {}, {}, {}), repository);
+    FakeSiteClient site;
+    const InformationModel model({.fileManager = fileManager,
+                                  .now = [] { return 0.0; },
+                                  .seedHistory = {},
+                                  .site = site,
+                                  .allowedHost = {},
+                                  .runningVersion = {}},
+                                 InformationContent({}, {}, {}, {}), repository);
     const auto& message = model.errorMessage();
     return message ? QJsonValue(*message) : QJsonValue::Null;
 }

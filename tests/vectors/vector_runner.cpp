@@ -28,6 +28,7 @@ VectorFunctions allFunctions()
     addModelFunctions(functions);
     addPackFunctions(functions);
     addProjectionFunctions(functions);
+    addRefreshFunctions(functions);
     addStrataFunctions(functions);
     addUpdateFunctions(functions);
     addWorkspaceFunctions(functions);

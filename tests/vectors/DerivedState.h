@@ -1,0 +1,8 @@
+#pragma once
+
+#include "InformationModel.h"
+
+#include <QJsonObject>
+
+/// Every derived member of the model that cases look at.
+QJsonObject derivedState(const InformationModel& model);
