@@ -15,6 +15,8 @@ Pressable {
     property color ground: "transparent"
     property color outline: "transparent"
     property real radius: InformationTheme.quietRadius
+    /// The focus ring lies inside the edge.
+    property bool ringInside: false
 
     Accessible.role: Accessible.Button
     Accessible.name: control.text
@@ -42,6 +44,7 @@ Pressable {
     FocusRing {
         shown: control.visualFocus
         controlRadius: control.radius
+        inside: control.ringInside
     }
 
     // A Loader of 6.4 cannot make a bound component.

@@ -1,0 +1,172 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import CorvaniteInformation
+
+/// The sheet with a signal's whole thread: its main points, how it came to be, further sources, and
+/// for a kept signal the reader's own note.
+Sheet {
+    id: sheet
+
+    required property InformationModel workbench
+    required property string signalId
+
+    readonly property int sideMargin: 32
+
+    width: 640
+    height: Math.min(header.height + sections.height, parent.height - 72)
+    title: threadPage.title
+
+    onOpened: {
+        threadPage.markSeen();
+        closeButton.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason);
+    }
+
+    ThreadPage {
+        id: threadPage
+
+        workbench: sheet.workbench
+        signalId: sheet.signalId
+    }
+
+    Item {
+        id: header
+
+        width: parent.width
+        height: heading.height
+
+        Column {
+            id: heading
+
+            x: sheet.sideMargin
+            width: closeButton.x - x
+            topPadding: 24
+            bottomPadding: 16
+            spacing: 4
+
+            EyebrowText {
+                text: "信息脉络"
+            }
+
+            HeadingText {
+                width: parent.width
+                text: threadPage.title
+                textStyle: InformationTheme.title1
+                maximumLineCount: 3
+                elide: Text.ElideRight
+            }
+        }
+
+        QuietButton {
+            id: closeButton
+
+            anchors.right: parent.right
+            anchors.rightMargin: sheet.sideMargin - rightPadding
+            y: 24
+            text: "关闭"
+            onClicked: sheet.close()
+        }
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: InformationTheme.hair
+        }
+    }
+
+    Flickable {
+        id: body
+
+        y: header.height
+        width: parent.width
+        height: parent.height - y
+
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        contentWidth: width
+        contentHeight: sections.height
+
+        Keys.forwardTo: [scroller]
+
+        T.ScrollBar.vertical: OverlayScrollBar {}
+
+        Column {
+            id: sections
+
+            x: sheet.sideMargin
+            width: body.width - 2 * x
+            topPadding: 20
+            bottomPadding: 28
+            spacing: 20
+
+            ThreadSection {
+                width: parent.width
+                visible: threadPage.hasDigest
+                heading: "页内要点"
+                text: threadPage.digest
+            }
+
+            ThreadTimeline {
+                width: parent.width
+                rows: threadPage.timeline
+            }
+
+            CitrineButton {
+                text: "看最新原文"
+                iconPath: IconPaths.arrowUpRight
+                iconStroke: 2.25
+                iconTrails: true
+                enabled: threadPage.originalAddress !== ""
+                onClicked: LinkOpener.open(threadPage.originalAddress)
+            }
+
+            Rectangle {
+                width: parent.width
+                height: 1
+                visible: related.visible || note.visible
+                color: InformationTheme.hair
+            }
+
+            RelatedSourceLinks {
+                id: related
+
+                width: parent.width
+                visible: sources.length > 0
+                sources: threadPage.relatedSources
+            }
+
+            Column {
+                id: note
+
+                width: parent.width
+                visible: threadPage.kept
+                spacing: 8
+
+                ThreadSection {
+                    width: parent.width
+                    heading: "为什么留下"
+                    text: threadPage.saveReason
+                    tint: InformationTheme.ink2
+                }
+
+                Optional {
+                    when: threadPage.kept
+
+                    NoteEditor {
+                        width: note.width
+                        thread: threadPage
+                        onCursorMoved: (y, height) => scroller.reveal(this, y, height)
+                    }
+                }
+            }
+        }
+    }
+
+    PaneScroller {
+        id: scroller
+
+        pane: body
+    }
+}

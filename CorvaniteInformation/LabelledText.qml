@@ -1,0 +1,29 @@
+import QtQuick
+import CorvaniteInformation
+
+/// A paragraph that opens with a bold label. Both are plain text: the label is a text of its own,
+/// and the first line leaves its place free.
+AppText {
+    id: paragraph
+
+    required property string label
+
+    Accessible.name: paragraph.label + paragraph.text
+
+    onLineLaidOut: line => {
+        if (line.number === 0) {
+            line.x = bold.implicitWidth;
+            line.width = paragraph.width - bold.implicitWidth;
+        }
+    }
+
+    AppText {
+        id: bold
+
+        text: paragraph.label
+        textStyle: InformationTheme.bodyBold
+        color: paragraph.color
+        wrapMode: Text.NoWrap
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,64 @@
+import QtQuick
+import CorvaniteInformation
+
+/// One node of a timeline: its day, what happened, and who says so.
+Item {
+    id: node
+
+    required property timelineRow row
+    required property bool first
+    required property bool last
+
+    readonly property int axis: 6
+    readonly property int nodeY: 12
+
+    implicitHeight: texts.height + (last ? 0 : 16)
+
+    Rectangle {
+        x: node.axis
+        y: node.first ? node.nodeY : 0
+        width: 1
+        height: (node.last ? node.nodeY : node.height) - y
+        color: InformationTheme.hairStrong
+    }
+
+    Rectangle {
+        x: node.axis - 4
+        y: node.nodeY - 4
+        width: 9
+        height: 9
+        radius: 4.5
+        color: node.row.isNow ? InformationTheme.accent : InformationTheme.card
+        border.color: node.row.isNow ? InformationTheme.accent : InformationTheme.control
+    }
+
+    AppText {
+        x: 24
+        width: 92
+        y: 2
+        text: node.row.date
+        textStyle: node.row.isNow ? InformationTheme.smallBold : InformationTheme.small
+        color: node.row.isNow ? InformationTheme.accent : InformationTheme.ink2
+    }
+
+    Column {
+        id: texts
+
+        x: 128
+        width: parent.width - x
+        spacing: 2
+
+        AppText {
+            width: parent.width
+            text: node.row.summary
+        }
+
+        AppText {
+            width: parent.width
+            visible: text !== ""
+            text: node.row.source
+            textStyle: InformationTheme.caption
+            color: InformationTheme.ink2
+        }
+    }
+}

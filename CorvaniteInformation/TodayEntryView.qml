@@ -1,0 +1,96 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation
+
+/// One place of the today surface's column, in the face of its kind.
+FocusScope {
+    id: view
+
+    required property todayEntry row
+    required property TodayPage page
+    required property real columnWidth
+    required property int railStop
+
+    signal threadRequested(string signalId)
+    signal railLineFocused(int position)
+    signal railStepped(int by)
+
+    implicitHeight: face.height
+
+    Column {
+        id: face
+
+        x: Math.round((view.width - width) / 2)
+        topPadding: view.row.isRailHeading ? 16 : 0
+        width: view.columnWidth
+
+        Optional {
+            when: view.row.isIntro
+
+            TodayIntro {
+                width: face.width
+                bottomPadding: 20
+                page: view.page
+            }
+        }
+
+        Optional {
+            when: view.row.isCard
+
+            Column {
+                width: face.width
+                bottomPadding: 16
+
+                SignalCard {
+                    width: parent.width
+                    row: view.row.card
+                    onClicked: view.threadRequested(row.signalId)
+                    onKeepToggled: view.page.workbench.toggleKeep(row.signalId)
+                    onSimilarReduced: view.page.workbench.reduceSimilar(row.signalId)
+                }
+            }
+        }
+
+        Optional {
+            when: view.row.isDisclosure
+
+            Column {
+                width: face.width
+                bottomPadding: 16
+
+                DisclosureRow {
+                    width: parent.width
+                    text: view.page.remainingTitle
+                    note: "需要时再展开，不会丢失。"
+                    open: view.page.showingRemaining
+                    onClicked: view.page.showingRemaining = !view.page.showingRemaining
+                }
+            }
+        }
+
+        Optional {
+            when: view.row.isOfRail
+
+            RailCardSlice {
+                id: slice
+
+                focus: true
+                width: face.width
+                first: view.row.isRailHeading
+                last: view.row.isRailEnd
+
+                RailEntryView {
+                    focus: true
+                    width: slice.contentWidth
+                    row: view.row
+                    page: view.page
+                    railStop: view.railStop
+                    onThreadRequested: signalId => view.threadRequested(signalId)
+                    onLineFocused: position => view.railLineFocused(position)
+                    onStepped: by => view.railStepped(by)
+                }
+            }
+        }
+    }
+}

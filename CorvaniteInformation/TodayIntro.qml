@@ -1,0 +1,50 @@
+import QtQuick
+import CorvaniteInformation
+
+/// The head of the today surface: what there is to read, the lane filter, and what there is to say
+/// when the reader has adjusted the selection or nothing is left of it.
+Column {
+    id: intro
+
+    required property TodayPage page
+
+    PageIntro {
+        width: parent.width
+        bottomPadding: 20
+        eyebrow: intro.page.eyebrow
+        title: intro.page.title
+        lead: intro.page.lead
+    }
+
+    LaneFilterBar {
+        width: parent.width
+        page: intro.page
+    }
+
+    Column {
+        width: parent.width
+        topPadding: 16
+        visible: intro.page.adjusted
+
+        PreferenceStatus {
+            width: parent.width
+            text: intro.page.preferenceStatus
+            onResetPressed: intro.page.workbench.resetPreferences()
+        }
+    }
+
+    Column {
+        width: parent.width
+        topPadding: 72
+        bottomPadding: 40
+        visible: intro.page.empty
+
+        EmptyCollectionView {
+            width: parent.width
+            title: "今天暂时没有剩余条目"
+            message: "重置内容调整即可重新查看今天的完整精选。"
+            action: "重置内容调整"
+            onPerform: intro.page.workbench.resetPreferences()
+        }
+    }
+}

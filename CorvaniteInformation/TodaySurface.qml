@@ -1,0 +1,93 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import CorvaniteInformation
+
+/// What to read today: a column of cards and, beside it or below, the list of everything.
+FocusScope {
+    id: surface
+
+    required property InformationModel workbench
+
+    signal threadRequested(string signalId)
+
+    readonly property bool twoPanes: width >= 980
+    readonly property bool wide: width >= 1440
+    readonly property int railWidth: !twoPanes ? 0 : wide ? 360 : 304
+
+    /// The line of the list of everything at which the Tab key stops.
+    property int railLine: 0
+    readonly property int railStop: Math.min(railLine, todayPage.railCount - 1)
+
+    Window.onActiveChanged: if (Window.active)
+        todayPage.refresh()
+
+    TodayPage {
+        id: todayPage
+
+        workbench: surface.workbench
+        railBelow: !surface.twoPanes
+    }
+
+    ListView {
+        id: column
+
+        readonly property real columnWidth: Math.min(surface.wide ? 760 : 720, width - 48)
+
+        width: surface.width - surface.railWidth
+        height: parent.height
+        topMargin: surface.wide ? 40 : 32
+        bottomMargin: surface.twoPanes ? 24 : 32
+        boundsBehavior: Flickable.StopAtBounds
+        cacheBuffer: 10000
+        clip: true
+        currentIndex: -1
+        focus: true
+        highlightFollowsCurrentItem: false
+        keyNavigationEnabled: false
+        model: todayPage.entries
+
+        Accessible.role: Accessible.List
+        Accessible.name: todayPage.title
+        Keys.forwardTo: [scroller]
+
+        T.ScrollBar.vertical: OverlayScrollBar {}
+
+        delegate: TodayEntryView {
+            required property int index
+
+            width: column.width
+            columnWidth: column.columnWidth
+            page: todayPage
+            railStop: surface.railStop
+            onThreadRequested: signalId => surface.threadRequested(signalId)
+            onRailLineFocused: position => surface.railLine = position
+            onRailStepped: by => scroller.focusRow(column, index + by)
+        }
+    }
+
+    ReadingOrder {
+        items: column.contentItem
+    }
+
+    PaneScroller {
+        id: scroller
+
+        pane: column
+    }
+
+    Optional {
+        when: surface.twoPanes
+
+        TodayRail {
+            x: column.width
+            width: surface.railWidth
+            height: surface.height
+            page: todayPage
+            railStop: surface.railStop
+            onThreadRequested: signalId => surface.threadRequested(signalId)
+            onLineFocused: position => surface.railLine = position
+        }
+    }
+}
