@@ -21,10 +21,11 @@ Window {
     flags: Qt.Window | Qt.FramelessWindowHint
     color: InformationTheme.canvas
 
-    Item {
+    FocusScope {
         id: page
 
         anchors.fill: parent
+        focus: true
 
         WorkbenchHeader {
             id: header
@@ -52,12 +53,37 @@ Window {
             siteOrigin: window.siteOrigin
         }
 
+        TodaySurface {
+            anchors.top: header.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: footer.top
+            focus: true
+            workbench: window.workbench
+            onThreadRequested: signalId => thread.signalId = signalId
+        }
+
         ReceiptBar {
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.bottom: footer.top
             anchors.bottomMargin: 16
             workbench: window.workbench
             maximumWidth: window.width - 48
+        }
+    }
+
+    Loader {
+        id: thread
+
+        /// The signal whose thread is open; empty when none is.
+        property string signalId: ""
+
+        active: signalId !== ""
+        sourceComponent: InformationThreadView {
+            workbench: window.workbench
+            signalId: thread.signalId
+            visible: true
+            onClosed: thread.signalId = ""
         }
     }
 
