@@ -26,9 +26,10 @@ Row {
         }
 
         Row {
-            spacing: 5
+            spacing: 6
 
             AppText {
+                width: Math.ceil(implicitWidth)
                 text: "corvanite"
                 color: InformationTheme.ink2
                 textStyle: InformationTheme.captionBold

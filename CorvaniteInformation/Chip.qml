@@ -16,7 +16,7 @@ AppButton {
         return hovered || down ? InformationTheme.ink : InformationTheme.ink2;
     }
 
-    implicitWidth: face.x + face.width + 11
+    implicitWidth: Math.ceil(face.x + face.width + 11)
     implicitHeight: 28
     radius: 14
     activeFocusOnTab: selected || activeFocus

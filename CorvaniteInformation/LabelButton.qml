@@ -24,12 +24,13 @@ AppButton {
     readonly property alias label: label
     readonly property real iconSpace: iconPath === "" ? 0 : iconSize + spacing
 
-    implicitWidth: leftPadding + iconSpace + label.implicitWidth + rightPadding
+    // Whole pixels: text that begins between two is drawn smeared.
+    implicitWidth: leftPadding + iconSpace + Math.ceil(label.implicitWidth) + rightPadding
     implicitHeight: label.implicitHeight
 
     Row {
         anchors.verticalCenter: parent.verticalCenter
-        x: control.leftPadding + Math.max(0, (control.width - control.implicitWidth) / 2)
+        x: control.leftPadding + Math.max(0, Math.floor((control.width - control.implicitWidth) / 2))
         spacing: control.spacing
         layoutDirection: control.iconTrails ? Qt.RightToLeft : Qt.LeftToRight
 
@@ -51,7 +52,7 @@ AppButton {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, control.width - control.leftPadding - control.iconSpace - control.rightPadding)
+            width: Math.min(Math.ceil(implicitWidth), control.width - control.leftPadding - control.iconSpace - control.rightPadding)
             text: control.text
             textStyle: control.textStyle
             color: control.tint

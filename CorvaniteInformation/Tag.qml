@@ -31,7 +31,7 @@ Rectangle {
         }
     }
 
-    implicitWidth: label.implicitWidth + 18
+    implicitWidth: Math.ceil(label.implicitWidth) + 18
     implicitHeight: 20
     radius: InformationTheme.tagRadius
     color: {
@@ -53,7 +53,8 @@ Rectangle {
     AppText {
         id: label
 
-        anchors.centerIn: parent
+        x: 9
+        anchors.verticalCenter: parent.verticalCenter
         text: tag.text
         textStyle: tag.kind === Tag.Neutral ? InformationTheme.caption : InformationTheme.captionBold
         color: tag.ink

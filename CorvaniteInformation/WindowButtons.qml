@@ -8,16 +8,11 @@ Row {
 
     required property Window window
 
-    readonly property bool maximized: window.visibility === Window.Maximized
+    required property bool maximized
+
+    signal maximizeToggled
 
     spacing: 8
-
-    function toggleMaximized() {
-        if (maximized)
-            window.showNormal();
-        else
-            window.showMaximized();
-    }
 
     IconButton {
         side: 28
@@ -32,7 +27,7 @@ Row {
         restTint: InformationTheme.ink3
         iconPath: buttons.maximized ? IconPaths.windowRestore : IconPaths.windowMaximize
         text: buttons.maximized ? "还原" : "最大化"
-        onClicked: buttons.toggleMaximized()
+        onClicked: buttons.maximizeToggled()
     }
 
     IconButton {

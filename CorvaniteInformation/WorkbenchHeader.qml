@@ -24,14 +24,11 @@ Rectangle {
 
     Accessible.role: Accessible.ToolBar
 
-    DragHandler {
-        target: null
-        onActiveChanged: if (active) header.window.startSystemMove()
-    }
+    WindowMover {
+        id: mover
 
-    TapHandler {
-        gesturePolicy: TapHandler.DragThreshold
-        onDoubleTapped: windowButtons.toggleMaximized()
+        anchors.fill: parent
+        window: header.window
     }
 
     BrandMark {
@@ -67,10 +64,10 @@ Rectangle {
         spacing: 12
 
         WindowButtons {
-            id: windowButtons
-
             anchors.verticalCenter: parent.verticalCenter
             window: header.window
+            maximized: mover.maximized
+            onMaximizeToggled: mover.toggleMaximized()
         }
     }
 

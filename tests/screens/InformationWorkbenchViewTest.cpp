@@ -220,6 +220,14 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_window->isVisible());
     }
 
+    void aDoubleClickOnTheHeaderMaximises()
+    {
+        QTest::mouseDClick(m_window, Qt::LeftButton, {}, {500, 30});
+        QTRY_COMPARE(m_window->visibility(), QWindow::Maximized);
+        QTest::mouseDClick(m_window, Qt::LeftButton, {}, {500, 30});
+        QTRY_COMPARE(m_window->visibility(), QWindow::Windowed);
+    }
+
 private:
     void load()
     {
