@@ -10,7 +10,9 @@ AppText {
 
     Accessible.name: paragraph.label + paragraph.text
 
+    // Lines that are laid out by hand stand at the bottom of a fixed height, all others at its top.
     onLineLaidOut: line => {
+        line.y -= textStyle.lineHeight - textStyle.ownHeight;
         if (line.number === 0) {
             line.x = bold.implicitWidth;
             line.width = paragraph.width - bold.implicitWidth;
