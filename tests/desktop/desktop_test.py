@@ -33,7 +33,7 @@ EMPTY_WORKSPACE = {
 
 class DesktopTest(unittest.TestCase):
     @contextmanager
-    def world(self, scheme: str = "light") -> Iterator[World]:
+    def world(self, scheme: str | None = "light") -> Iterator[World]:
         """A world for this test. A failure leaves pictures, trees and messages behind; a program
         that prints a message, as Qt does for every warning, is a failure."""
         with World(scheme) as world:

@@ -16,4 +16,7 @@ def main() -> None:
 
 
 if __name__ == "__main__":
-    main()
+    try:
+        main()
+    except (RuntimeError, TimeoutError) as reason:
+        sys.exit(str(reason))

@@ -92,6 +92,12 @@ class Program:
         self.wait_until_still()
         answer_of(["import", "-window", self.window(), f"png:{file}"], self._environment)
 
+    def brightness(self) -> float:
+        """The mean of the window's colour parts, from 0 (black) to 1 (white)."""
+        self.wait_until_still()
+        pixels = self._pixels()
+        return sum(pixels) / (255 * len(pixels))
+
     def wait_until_still(self) -> None:
         previous = b""
 
