@@ -14,9 +14,9 @@ public:
     /// @param applicationSupportDirectory what `applicationSupportDirectory()` answers
     explicit LocalFileManager(std::optional<QString> applicationSupportDirectory);
 
-    /// The per-user data directory that the environment names: `$XDG_DATA_HOME`, else
-    /// `$HOME/.local/share`. A relative value is ignored; neither gives nothing.
-    /// https://specifications.freedesktop.org/basedir-spec/latest/
+    /// The per-user data directory of the XDG Base Directories, as the environment names it:
+    /// `$XDG_DATA_HOME`, else `$HOME/.local/share`. A relative value is ignored; neither gives
+    /// nothing.
     static std::optional<QString>
     applicationSupportDirectory(const QProcessEnvironment& environment);
 
