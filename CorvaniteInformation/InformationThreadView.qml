@@ -101,11 +101,14 @@ Sheet {
             bottomPadding: 28
             spacing: 20
 
-            ThreadSection {
-                width: parent.width
-                visible: threadPage.hasDigest
-                heading: "页内要点"
-                text: threadPage.digest
+            Optional {
+                when: threadPage.hasDigest
+
+                ThreadSection {
+                    width: sections.width
+                    heading: "页内要点"
+                    text: threadPage.digest
+                }
             }
 
             ThreadTimeline {
@@ -122,42 +125,38 @@ Sheet {
                 onClicked: LinkOpener.open(threadPage.originalAddress)
             }
 
-            Rectangle {
-                width: parent.width
-                height: 1
-                visible: related.visible || note.visible
-                color: InformationTheme.hair
-            }
-
-            RelatedSourceLinks {
-                id: related
-
-                width: parent.width
-                visible: sources.length > 0
-                sources: threadPage.relatedSources
-            }
-
             Column {
-                id: note
-
                 width: parent.width
-                visible: threadPage.kept
-                spacing: 8
+                visible: threadPage.relatedSources.length > 0 || threadPage.kept
+                spacing: 16
 
-                ThreadSection {
+                Rectangle {
                     width: parent.width
-                    heading: "为什么留下"
-                    text: threadPage.saveReason
-                    tint: InformationTheme.ink2
+                    height: 1
+                    color: InformationTheme.hair
                 }
 
-                Optional {
-                    when: threadPage.kept
+                Column {
+                    width: parent.width
+                    spacing: 12
 
-                    NoteEditor {
-                        width: note.width
-                        thread: threadPage
-                        onCursorMoved: (y, height) => scroller.reveal(this, y, height)
+                    Optional {
+                        when: threadPage.relatedSources.length > 0
+
+                        RelatedSourceLinks {
+                            width: sections.width
+                            sources: threadPage.relatedSources
+                        }
+                    }
+
+                    Optional {
+                        when: threadPage.kept
+
+                        KeptNote {
+                            width: sections.width
+                            thread: threadPage
+                            onCursorMoved: (editor, y, height) => scroller.reveal(editor, y, height)
+                        }
                     }
                 }
             }

@@ -44,15 +44,6 @@ Window {
             onSurfaceChosen: surface => window.workbench.surface = surface
         }
 
-        SiteFooter {
-            id: footer
-
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.bottom: parent.bottom
-            siteOrigin: window.siteOrigin
-        }
-
         TodaySurface {
             anchors.top: header.bottom
             anchors.left: parent.left
@@ -61,6 +52,15 @@ Window {
             focus: true
             workbench: window.workbench
             onThreadRequested: signalId => thread.signalId = signalId
+        }
+
+        SiteFooter {
+            id: footer
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            siteOrigin: window.siteOrigin
         }
 
         ReceiptBar {

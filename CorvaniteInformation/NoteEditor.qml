@@ -9,7 +9,7 @@ T.TextArea {
     required property ThreadPage thread
 
     /// The cursor stands in the part of the editor from `y` on.
-    signal cursorMoved(real y, real height)
+    signal cursorMoved(y: real, height: real)
 
     /// The text comes from the store and not from the reader.
     property bool loading: false

@@ -11,10 +11,10 @@ FocusScope {
     required property TodayPage page
     required property int railStop
 
-    signal threadRequested(string signalId)
-    signal lineFocused(int position)
+    signal threadRequested(signalId: string)
+    signal lineFocused(position: int)
     /// The focus is to go to the line that many lines further.
-    signal stepped(int by)
+    signal stepped(by: int)
 
     implicitHeight: face.height
 

@@ -15,7 +15,7 @@ AppButton {
     readonly property int overhang: 12
 
     /// The focus is to go to the line that many lines further.
-    signal stepped(int by)
+    signal stepped(by: int)
 
     implicitHeight: title.height + 16
     radius: InformationTheme.rowRadius

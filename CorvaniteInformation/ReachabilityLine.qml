@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import CorvaniteInformation
 
@@ -15,11 +17,14 @@ Row {
         kind: line.row.blocked ? Tag.Blocked : Tag.Unstable
     }
 
-    SourceLink {
-        anchors.verticalCenter: parent.verticalCenter
-        visible: line.row.hasAlternate
-        text: "备选原文 ↗"
-        hasArrow: false
-        address: line.row.alternateAddress
+    Optional {
+        when: line.row.hasAlternate
+
+        SourceLink {
+            y: (line.height - height) / 2
+            text: "备选原文 ↗"
+            hasArrow: false
+            address: line.row.alternateAddress
+        }
     }
 }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import CorvaniteInformation
 
@@ -35,9 +37,12 @@ Item {
                 row: face.row
             }
 
-            ReachabilityLine {
-                visible: face.row.reachabilityTag !== ""
-                row: face.row
+            Optional {
+                when: face.row.reachabilityTag !== ""
+
+                ReachabilityLine {
+                    row: face.row
+                }
             }
 
             HeadingText {
@@ -93,17 +98,20 @@ Item {
                     }
                 }
 
-                QuietButton {
-                    x: -leftPadding
-                    implicitHeight: 32
-                    visible: face.row.hasChange
-                    text: "看变化"
-                    restTint: InformationTheme.accent
-                    iconPath: face.expanded ? IconPaths.chevronUp : IconPaths.chevronDown
-                    iconSize: 14
-                    iconTrails: true
-                    Accessible.description: face.expanded ? "已展开" : "已收起"
-                    onClicked: face.expanded = !face.expanded
+                Optional {
+                    when: face.row.hasChange
+
+                    QuietButton {
+                        x: -leftPadding
+                        implicitHeight: 32
+                        text: "看变化"
+                        restTint: InformationTheme.accent
+                        iconPath: face.expanded ? IconPaths.chevronUp : IconPaths.chevronDown
+                        iconSize: 14
+                        iconTrails: true
+                        Accessible.description: face.expanded ? "已展开" : "已收起"
+                        onClicked: face.expanded = !face.expanded
+                    }
                 }
 
                 ChangeBlock {

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import CorvaniteInformation
 
@@ -40,8 +42,11 @@ Row {
         color: InformationTheme.ink2
     }
 
-    Tag {
-        visible: meta.row.seen
-        text: "已看过"
+    Optional {
+        when: meta.row.seen
+
+        Tag {
+            text: "已看过"
+        }
     }
 }

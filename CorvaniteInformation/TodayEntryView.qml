@@ -12,9 +12,9 @@ FocusScope {
     required property real columnWidth
     required property int railStop
 
-    signal threadRequested(string signalId)
-    signal railLineFocused(int position)
-    signal railStepped(int by)
+    signal threadRequested(signalId: string)
+    signal railLineFocused(position: int)
+    signal railStepped(by: int)
 
     implicitHeight: face.height
 

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import CorvaniteInformation
 
@@ -21,30 +23,36 @@ Column {
         page: intro.page
     }
 
-    Column {
-        width: parent.width
-        topPadding: 16
-        visible: intro.page.adjusted
+    Optional {
+        when: intro.page.adjusted
 
-        PreferenceStatus {
-            width: parent.width
-            text: intro.page.preferenceStatus
-            onResetPressed: intro.page.workbench.resetPreferences()
+        Column {
+            width: intro.width
+            topPadding: 16
+
+            PreferenceStatus {
+                width: parent.width
+                text: intro.page.preferenceStatus
+                onResetPressed: intro.page.workbench.resetPreferences()
+            }
         }
     }
 
-    Column {
-        width: parent.width
-        topPadding: 72
-        bottomPadding: 40
-        visible: intro.page.empty
+    Optional {
+        when: intro.page.empty
 
-        EmptyCollectionView {
-            width: parent.width
-            title: "今天暂时没有剩余条目"
-            message: "重置内容调整即可重新查看今天的完整精选。"
-            action: "重置内容调整"
-            onPerform: intro.page.workbench.resetPreferences()
+        Column {
+            width: intro.width
+            topPadding: 72
+            bottomPadding: 40
+
+            EmptyCollectionView {
+                width: parent.width
+                title: "今天暂时没有剩余条目"
+                message: "重置内容调整即可重新查看今天的完整精选。"
+                action: "重置内容调整"
+                onPerform: intro.page.workbench.resetPreferences()
+            }
         }
     }
 }

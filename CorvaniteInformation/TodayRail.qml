@@ -12,8 +12,8 @@ FocusScope {
     required property TodayPage page
     required property int railStop
 
-    signal threadRequested(string signalId)
-    signal lineFocused(int position)
+    signal threadRequested(signalId: string)
+    signal lineFocused(position: int)
 
     readonly property bool receiptPinned: height >= 520
     readonly property int textX: 21

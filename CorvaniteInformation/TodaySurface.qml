@@ -10,7 +10,7 @@ FocusScope {
 
     required property InformationModel workbench
 
-    signal threadRequested(string signalId)
+    signal threadRequested(signalId: string)
 
     readonly property bool twoPanes: width >= 980
     readonly property bool wide: width >= 1440
@@ -37,7 +37,7 @@ FocusScope {
 
         width: surface.width - surface.railWidth
         height: parent.height
-        topMargin: surface.wide ? 40 : 32
+        topMargin: surface.wide ? 40 : surface.twoPanes ? 32 : 24
         bottomMargin: surface.twoPanes ? 24 : 32
         boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 10000
