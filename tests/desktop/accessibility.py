@@ -69,7 +69,8 @@ class Element:
         self._call(COMPONENT, "GrabFocus")
 
     def text(self) -> str:
-        return self._call(TEXT, "GetText", GLib.Variant("(ii)", (0, -1)))
+        # Qt's text editors tell the end of a paragraph as U+2029.
+        return self._call(TEXT, "GetText", GLib.Variant("(ii)", (0, -1))).replace("\u2029", "\n")
 
     def set_text(self, text: str) -> None:
         self._call(EDITABLE_TEXT, "SetTextContents", GLib.Variant("(s)", (text,)))

@@ -180,6 +180,8 @@ class World:
         # There is no number of desktops until a window manager has announced itself.
         question = ["xdotool", "get_num_desktops"]
         wait_until(lambda: succeeds(question, self.environment), "the window manager")
+        # Nothing is to look hovered by chance.
+        answer_of(["xdotool", "mousemove", *map(str, self._screen)], self.environment)
 
 
     def _start_appearance_portal(self, scheme: str) -> None:
