@@ -441,6 +441,7 @@ void NetworkSiteClientTest::endsItsRequestsWhenDestroyed()
 
     client.reset();
 
+    QVERIFY(first && second);
     QCOMPARE(*first, transportError);
     QCOMPARE(*second, transportError);
     QTRY_COMPARE(site.connectionsOpen(), 0);
