@@ -27,7 +27,8 @@ FocusScope {
         id: todayPage
 
         workbench: surface.workbench
-        railBelow: !surface.twoPanes
+        // Before it has a width the surface would lay the list out twice.
+        railBelow: surface.width > 0 && !surface.twoPanes
     }
 
     ListView {
