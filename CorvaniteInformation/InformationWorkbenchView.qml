@@ -51,7 +51,7 @@ Window {
             anchors.bottom: footer.top
             focus: true
             workbench: window.workbench
-            onThreadRequested: signalId => thread.signalId = signalId
+            onThreadRequested: signalId => thread.show(signalId)
         }
 
         SiteFooter {
@@ -75,15 +75,20 @@ Window {
     Loader {
         id: thread
 
-        /// The signal whose thread is open; empty when none is.
-        property string signalId: ""
+        function show(signalId: string) {
+            setSource("InformationThreadView.qml", {
+                workbench: window.workbench,
+                signalId: signalId,
+                visible: true
+            });
+        }
 
-        active: signalId !== ""
-        sourceComponent: InformationThreadView {
-            workbench: window.workbench
-            signalId: thread.signalId
-            visible: true
-            onClosed: thread.signalId = ""
+        Connections {
+            target: thread.item as InformationThreadView
+
+            function onClosed() {
+                thread.source = "";
+            }
         }
     }
 
