@@ -21,19 +21,32 @@ Window {
     flags: Qt.Window | Qt.FramelessWindowHint
     color: InformationTheme.canvas
 
+    // After the first frame, which nothing may delay; the model sees to it that it happens once.
+    onFrameSwapped: workbench.probeAppUpdateOnce()
+
     FocusScope {
         id: page
 
         anchors.fill: parent
         focus: true
 
-        WorkbenchHeader {
-            id: header
+        UpdateBanner {
+            id: banner
 
             anchors.left: parent.left
             anchors.right: parent.right
             window: window
-            surface: window.workbench.surface
+            workbench: window.workbench
+        }
+
+        WorkbenchHeader {
+            id: header
+
+            anchors.top: banner.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            window: window
+            workbench: window.workbench
             surfaces: [
                 SurfaceEntry {
                     surface: InformationModel.Today
@@ -41,7 +54,6 @@ Window {
                     iconPath: IconPaths.sparkles
                 }
             ]
-            onSurfaceChosen: surface => window.workbench.surface = surface
         }
 
         TodaySurface {
@@ -60,6 +72,7 @@ Window {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: parent.bottom
+            workbench: window.workbench
             siteOrigin: window.siteOrigin
         }
 
@@ -105,6 +118,11 @@ Window {
         target: InformationTheme
         property: "reducedMotion"
         value: window.appearance.reducedMotion
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+R", "F5"]
+        onActivated: window.workbench.refreshPackFromSite()
     }
 
     Shortcut {

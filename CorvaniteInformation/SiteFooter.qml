@@ -7,10 +7,11 @@ import CorvaniteInformation
 Rectangle {
     id: footer
 
+    required property InformationModel workbench
     required property string siteOrigin
 
     readonly property int sideMargin: width >= 1040 ? 24 : 20
-    readonly property bool oneRow: note.width + 24 + links.width <= width - 2 * sideMargin
+    readonly property bool oneRow: notes.width + 24 + links.width <= width - 2 * sideMargin
 
     implicitHeight: oneRow ? 36 : 64
     color: InformationTheme.canvas
@@ -31,15 +32,40 @@ Rectangle {
         color: InformationTheme.hair
     }
 
-    AppText {
-        id: note
+    Row {
+        id: notes
 
         x: footer.sideMargin
         y: 10
-        text: "收下的内容与偏好保存在当前设备"
-        color: InformationTheme.ink3
-        textStyle: InformationTheme.caption
-        wrapMode: Text.NoWrap
+        spacing: 8
+
+        AppText {
+            text: "收下的内容与偏好保存在当前设备"
+            color: InformationTheme.ink3
+            textStyle: InformationTheme.caption
+            wrapMode: Text.NoWrap
+        }
+
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: syncNote.visible
+            width: 3
+            height: 3
+            radius: 1.5
+            color: InformationTheme.ink3
+        }
+
+        AppText {
+            id: syncNote
+
+            visible: text !== ""
+            text: footer.workbench.packSyncNote
+            color: footer.workbench.packSyncFailed ? InformationTheme.accent : InformationTheme.ink2
+            textStyle: InformationTheme.caption
+            wrapMode: Text.NoWrap
+
+            Accessible.role: Accessible.AlertMessage
+        }
     }
 
     Row {

@@ -8,10 +8,8 @@ Rectangle {
     id: header
 
     required property Window window
+    required property InformationModel workbench
     property alias surfaces: switcher.surfaces
-    required property int surface
-
-    signal surfaceChosen(int surface)
 
     readonly property bool wide: width >= 1040
     readonly property bool hasSwitcher: switcher.surfaces.length > 1
@@ -49,9 +47,9 @@ Rectangle {
         y: header.wide ? 14 : 64
         width: header.wide ? implicitWidth : header.width - 2 * header.sideMargin
         visible: header.hasSwitcher
-        current: header.surface
+        current: header.workbench.surface
         stretched: !header.wide
-        onChosen: surface => header.surfaceChosen(surface)
+        onChosen: surface => header.workbench.surface = surface
     }
 
     Row {
@@ -62,6 +60,13 @@ Rectangle {
         y: header.wide ? 13 : 14
         height: 38
         spacing: 12
+
+        SyncButton {
+            anchors.verticalCenter: parent.verticalCenter
+            running: header.workbench.isSyncingPack
+            help: (header.workbench.syncHelp + "\n" + header.workbench.packSyncNote).trim()
+            onClicked: header.workbench.refreshPackFromSite()
+        }
 
         WindowButtons {
             anchors.verticalCenter: parent.verticalCenter

@@ -72,9 +72,13 @@ class World:
     def __exit__(self, *_) -> None:
         self._end()
 
-    def start(self, program: Path, data_home: Path | None = None) -> Program:
-        """Starts the program; with `data_home` it keeps its data there."""
+    def start(
+        self, program: Path, data_home: Path | None = None, site: str | None = None
+    ) -> Program:
+        """Starts the program; with `data_home` it keeps its data there, and one that is made for
+        it reads the `site`."""
         changed = {"XDG_DATA_HOME": str(data_home)} if data_home else {}
+        changed |= {"LOOPBACK_SITE_ORIGIN": site} if site else {}
         process = self._run(program.name, [str(program)], environment=self.environment | changed)
         started = Program(process, self.environment, self.accessibility)
         self._programs.append(started)

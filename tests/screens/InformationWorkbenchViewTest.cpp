@@ -2,6 +2,7 @@
 #include "FakeSiteClient.h"
 #include "InformationModel.h"
 #include "MemoryFileManager.h"
+#include "ProductSite.h"
 
 #include <QAccessible>
 #include <QDBusConnection>
@@ -52,14 +53,7 @@ private Q_SLOTS:
         m_warnings.clear();
         m_files.emplace();
         m_site.emplace();
-        m_model.emplace(InformationModel::Collaborators{.fileManager = *m_files,
-                                                        .now = [] { return 0.0; },
-                                                        .seedHistory = {},
-                                                        .site = *m_site,
-                                                        .allowedHost = u"corvanite.example"_qs,
-                                                        .runningVersion = u"1.0.0"_qs},
-                        InformationContent({signalWithId(u"a"_qs)}, {}, {}, {}),
-                        InformationWorkspaceRepository{u"/support/workspace"_qs});
+        makeModel();
         load();
     }
 
@@ -102,7 +96,7 @@ private Q_SLOTS:
 
     void whatDoesNotExistYetIsNotThere()
     {
-        for (const auto& name : {u"同步站点"_qs, u"添加信息"_qs, u"今天"_qs, u"关闭回执"_qs}) {
+        for (const auto& name : {u"添加信息"_qs, u"今天"_qs, u"关闭回执"_qs, u"获取更新"_qs}) {
             QVERIFY(!find(name, QAccessible::Button));
             QVERIFY(!find(name, QAccessible::PageTab));
         }
@@ -124,6 +118,67 @@ private Q_SLOTS:
         const Browser browser;
         press(QString::fromUtf8(QTest::currentDataTag()), QAccessible::Link);
         QCOMPARE(browser.opened, QList{QUrl(address)});
+    }
+
+    void aSyncSaysThatItRunsAndHowItWent()
+    {
+        m_site->heldPaths = {ProductSite::packPath};
+        press(u"同步站点"_qs, QAccessible::Button);
+        auto* const button = awaited(u"同步中"_qs, QAccessible::Button);
+        QVERIFY(button);
+        QVERIFY(!button->isEnabled());
+
+        m_site->release();
+        const auto result = u"同步失败，继续使用当前内容"_qs;
+        QVERIFY(awaited(result, QAccessible::AlertMessage));
+        QVERIFY(button->isEnabled());
+        const auto* const accessible = QAccessible::queryAccessibleInterface(button);
+        QCOMPARE(accessible->text(QAccessible::Name), u"同步站点"_qs);
+        QCOMPARE(accessible->text(QAccessible::Description),
+                 u"从 corvanite.example 拉取最新精选内容\n"_qs + result);
+    }
+
+    void theKeysOfASync_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+
+        QTest::newRow("F5") << Qt::Key_F5 << Qt::KeyboardModifiers();
+        QTest::newRow("Ctrl+R") << Qt::Key_R << Qt::KeyboardModifiers(Qt::ControlModifier);
+    }
+
+    void theKeysOfASync()
+    {
+        QFETCH(const Qt::Key, key);
+        QFETCH(const Qt::KeyboardModifiers, modifiers);
+        m_site->requests.clear();
+        QTest::keyClick(m_window, key, modifiers);
+        QCOMPARE(m_site->requests.size(), 1);
+    }
+
+    void theBannerOffersANewerBuild()
+    {
+        const auto address = u"https://corvanite.example/builds/1.2.3"_qs;
+        m_site->answers.insert(
+            ProductSite::appVersionPath,
+            SiteReply{.body = R"({"schemaVersion": "corvanite-information-app-version-v1",
+                                  "version": "1.2.3", "sha256": "00",
+                                  "downloadUrl": "https://corvanite.example/builds/1.2.3"})",
+                      .status = 200});
+        makeModel();
+        load();
+        QVERIFY(awaited(u"新版本 1.2.3 已发布"_qs, QAccessible::StaticText));
+        auto* const button = awaited(u"获取更新"_qs, QAccessible::Button);
+        QVERIFY(button);
+        QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Description),
+                 u"获取 Corvanite Information 新版本 1.2.3"_qs);
+
+        const Browser browser;
+        press(u"获取更新"_qs, QAccessible::Button);
+        QCOMPARE(browser.opened, QList{QUrl(address)});
+
+        press(u"关闭更新提示"_qs, QAccessible::Button);
+        QTRY_VERIFY(!find(u"获取更新"_qs, QAccessible::Button));
     }
 
     void theReceiptBarComesAndGoesWithTheReceipt()
@@ -229,6 +284,19 @@ private Q_SLOTS:
     }
 
 private:
+    void makeModel()
+    {
+        m_engine.reset();
+        m_model.emplace(InformationModel::Collaborators{.fileManager = *m_files,
+                                                        .now = [] { return 0.0; },
+                                                        .seedHistory = {},
+                                                        .site = *m_site,
+                                                        .allowedHost = u"corvanite.example"_qs,
+                                                        .runningVersion = u"1.0.0"_qs},
+                        InformationContent({signalWithId(u"a"_qs)}, {}, {}, {}),
+                        InformationWorkspaceRepository{u"/support/workspace"_qs});
+    }
+
     void load()
     {
         m_engine.emplace();

@@ -1,0 +1,12 @@
+// The program over a site of the test's own: LOOPBACK_SITE_ORIGIN names it.
+
+#include "Program.h"
+
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(CorvaniteInformationPlugin)
+
+int main(int argc, char* argv[])
+{
+    return runProgram(argc, argv, qEnvironmentVariable("LOOPBACK_SITE_ORIGIN"), u"1.2.3"_qs);
+}

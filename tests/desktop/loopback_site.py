@@ -1,0 +1,51 @@
+"""A product site on loopback that a test fills and reads the log of."""
+
+import threading
+from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
+
+PATIENCE = 20
+"""For how many seconds a held answer waits."""
+
+
+class Site:
+    """Use it in a `with`. Answers with the documents given, by path; any other is not found."""
+
+    def __init__(self, documents: dict[str, bytes]):
+        self.requests: list[tuple[str, dict[str, str]]] = []
+        """Path and headers of every request, in order."""
+        self.may_answer = threading.Event()
+        """While it is not set, every request waits."""
+        self.may_answer.set()
+        site = self
+
+        class Handler(BaseHTTPRequestHandler):
+            def do_GET(self):
+                site.requests.append((self.path, dict(self.headers)))
+                site.may_answer.wait(PATIENCE)
+                document = documents.get(self.path)
+                self.send_response(404 if document is None else 200)
+                self.send_header("Content-Length", str(len(document or b"")))
+                self.end_headers()
+                self.wfile.write(document or b"")
+
+            def log_message(self, *_):
+                pass
+
+        self._server = ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+        self._thread = threading.Thread(target=self._server.serve_forever, daemon=True)
+
+    @property
+    def origin(self) -> str:
+        return f"http://127.0.0.1:{self._server.server_port}"
+
+    def paths(self) -> list[str]:
+        return [path for path, _ in self.requests]
+
+    def __enter__(self) -> "Site":
+        self._thread.start()
+        return self
+
+    def __exit__(self, *_) -> None:
+        self.may_answer.set()
+        self._server.shutdown()
+        self._server.server_close()
