@@ -111,6 +111,7 @@ private:
 
 private Q_SLOTS:
     void initTestCase();
+    void waitsAMinuteInSilenceAndFiveInAll();
     void answersWithBodyAndStatus_data();
     void answersWithBodyAndStatus();
     void refusesWhatIsNoWholeAnswer_data();
@@ -143,6 +144,15 @@ void NetworkSiteClientTest::initTestCase()
     auto tls = QSslConfiguration::defaultConfiguration();
     tls.setCaCertificates({m_certificates.authority()});
     QSslConfiguration::setDefaultConfiguration(tls);
+}
+
+void NetworkSiteClientTest::waitsAMinuteInSilenceAndFiveInAll()
+{
+    const NetworkSiteClient::Limits limits;
+
+    QCOMPARE(limits.silence, 1min);
+    QCOMPARE(limits.overall, 5min);
+    QCOMPARE(limits.redirects, 5);
 }
 
 void NetworkSiteClientTest::answersWithBodyAndStatus_data()
