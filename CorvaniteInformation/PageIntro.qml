@@ -5,7 +5,7 @@ import CorvaniteInformation
 Column {
     id: intro
 
-    required property string eyebrow
+    property string eyebrow: ""
     required property string title
     required property string lead
 
@@ -17,6 +17,7 @@ Column {
 
         EyebrowText {
             width: parent.width
+            visible: text !== ""
             text: intro.eyebrow
         }
 

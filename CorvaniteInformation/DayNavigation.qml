@@ -1,0 +1,46 @@
+import QtQuick
+import CorvaniteInformation
+
+/// The ways on from an archived day: back, and to the neighbouring days.
+Item {
+    id: navigation
+
+    required property ArchivePage page
+
+    implicitHeight: back.height
+
+    Row {
+        id: back
+
+        x: -12
+        spacing: 10
+
+        QuietButton {
+            text: "回往期索引"
+            onClicked: navigation.page.workbench.closeArchiveDay()
+        }
+
+        QuietButton {
+            text: "回今日工作台"
+            onClicked: navigation.page.workbench.surface = InformationModel.Surface.Today
+        }
+    }
+
+    Row {
+        anchors.right: parent.right
+        anchors.rightMargin: -12
+        spacing: 10
+
+        QuietButton {
+            visible: text !== ""
+            text: navigation.page.day.previousText
+            onClicked: navigation.page.workbench.openArchiveDay(navigation.page.day.previousDate)
+        }
+
+        QuietButton {
+            visible: text !== ""
+            text: navigation.page.day.nextText
+            onClicked: navigation.page.workbench.openArchiveDay(navigation.page.day.nextDate)
+        }
+    }
+}

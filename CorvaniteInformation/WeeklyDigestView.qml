@@ -1,0 +1,71 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation
+
+/// The featured signals of each day, folded by week.
+FocusScope {
+    id: surface
+
+    required property InformationModel workbench
+
+    Window.onActiveChanged: if (Window.active)
+        page.refresh()
+
+    WeeklyPage {
+        id: page
+
+        workbench: surface.workbench
+    }
+
+    PageList {
+        id: list
+
+        anchors.fill: parent
+        focus: true
+        spacing: 32
+        head: head
+        model: page.weeks
+
+        Column {
+            id: head
+
+            parent: list.contentItem
+            x: list.columnX
+            width: list.columnWidth
+            bottomPadding: 32
+            spacing: 32
+
+            PageIntro {
+                width: parent.width
+                title: "周报精选"
+                lead: "每日焦点按周折叠，由记录自动生成，不是事后改写。"
+            }
+
+            AppText {
+                width: parent.width
+                visible: page.empty
+                text: "还没有归档的天数。同步站点后，每天的焦点会自动折进周报。"
+                color: InformationTheme.ink2
+            }
+        }
+
+        delegate: Item {
+            id: place
+
+            required property weekRow row
+
+            width: list.width
+            implicitHeight: week.height
+
+            WeekSection {
+                id: week
+
+                x: list.columnX
+                width: list.columnWidth
+                row: place.row
+                onDayOpened: date => surface.workbench.openArchiveDay(date)
+            }
+        }
+    }
+}
