@@ -1,6 +1,7 @@
 """A product site on loopback that a test fills and reads the log of."""
 
 import threading
+from contextlib import suppress
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
 
 PATIENCE = 20
@@ -23,6 +24,10 @@ class Site:
                 site.requests.append((self.path, dict(self.headers)))
                 site.may_answer.wait(PATIENCE)
                 document = documents.get(self.path)
+                with suppress(ConnectionError):
+                    self.answer(document)
+
+            def answer(self, document: bytes | None) -> None:
                 self.send_response(404 if document is None else 200)
                 self.send_header("Content-Length", str(len(document or b"")))
                 self.end_headers()

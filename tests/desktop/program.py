@@ -49,8 +49,17 @@ class Program:
     def close(self) -> int:
         """Closes the window as the reader does from the keyboard; the exit status."""
         self.wait_until(self.is_active, "the window is active")
-        self.press_keys("alt+F4")
+        wait_until(self._ended_by_keyboard, "the program has ended")
         return self.wait_for_exit()
+
+    def _ended_by_keyboard(self) -> bool:
+        """The window manager misses a key that is pressed while it is busy."""
+        self.press_keys("alt+F4")
+        try:
+            wait_until(lambda: not self.process.is_running(), "the program has ended", 2)
+        except TimeoutError:
+            return False
+        return True
 
     # Window
 
