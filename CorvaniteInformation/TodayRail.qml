@@ -15,7 +15,7 @@ FocusScope {
     signal threadRequested(signalId: string)
     signal lineFocused(position: int)
 
-    readonly property bool receiptPinned: height >= 520
+    readonly property bool receiptPinned: height === 0 || height >= 520
     readonly property int textX: 21
     readonly property real textWidth: width - textX - 20
 

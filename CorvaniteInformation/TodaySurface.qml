@@ -12,7 +12,8 @@ FocusScope {
 
     signal threadRequested(signalId: string)
 
-    readonly property bool twoPanes: width >= 980
+    // Without a width yet, as in the window's usual one: what is laid out twice jumps.
+    readonly property bool twoPanes: width === 0 || width >= 980
     readonly property bool wide: width >= 1440
     readonly property int railWidth: !twoPanes ? 0 : wide ? 360 : 304
 
@@ -27,8 +28,8 @@ FocusScope {
         id: todayPage
 
         workbench: surface.workbench
-        // Before it has a width the surface would lay the list out twice.
-        railBelow: surface.width > 0 && !surface.twoPanes
+        railBelow: !surface.twoPanes
+        receiptPinned: true
     }
 
     ListView {
@@ -52,6 +53,10 @@ FocusScope {
         Accessible.role: Accessible.List
         Accessible.name: todayPage.title
         Keys.forwardTo: [scroller]
+
+        // A list at its top stays there when the margin above it changes.
+        onTopMarginChanged: if (contentY <= originY)
+            contentY = originY - topMargin
 
         T.ScrollBar.vertical: OverlayScrollBar {}
 
