@@ -28,6 +28,9 @@ Column {
 
     spacing: 16
 
+    Accessible.role: Accessible.Dialog
+    Accessible.name: form.title
+
     Column {
         width: parent.width
         bottomPadding: 4

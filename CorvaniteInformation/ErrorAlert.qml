@@ -54,6 +54,7 @@ Sheet {
 
                 anchors.right: parent.right
                 anchors.bottom: parent.bottom
+                width: Math.max(96, implicitWidth)
                 text: "知道了"
                 onClicked: alert.workbench.dismissError()
             }

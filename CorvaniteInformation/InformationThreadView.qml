@@ -31,141 +31,152 @@ Sheet {
     }
 
     Item {
-        id: header
+        width: sheet.availableWidth
+        height: sheet.availableHeight
 
-        width: parent.width
-        height: heading.height
+        Accessible.role: Accessible.Dialog
+        Accessible.name: sheet.title
 
-        Column {
-            id: heading
+        Item {
+            id: header
 
-            x: sheet.sideMargin
-            width: closeButton.x - x
-            topPadding: 24
-            bottomPadding: 16
-            spacing: 4
-
-            EyebrowText {
-                text: "信息脉络"
-            }
-
-            HeadingText {
-                width: parent.width
-                text: threadPage.title
-                textStyle: InformationTheme.title1
-                maximumLineCount: 3
-                elide: Text.ElideRight
-            }
-        }
-
-        QuietButton {
-            id: closeButton
-
-            anchors.right: parent.right
-            anchors.rightMargin: sheet.sideMargin - rightPadding
-            y: 24
-            text: "关闭"
-            onClicked: sheet.close()
-        }
-
-        Rectangle {
-            anchors.bottom: parent.bottom
             width: parent.width
-            height: 1
-            color: InformationTheme.hair
-        }
-    }
+            height: heading.height
 
-    Flickable {
-        id: body
+            Column {
+                id: heading
 
-        y: header.height
-        width: parent.width
-        height: parent.height - y
+                x: sheet.sideMargin
+                width: closeButton.x - x
+                topPadding: 24
+                bottomPadding: 16
+                spacing: 4
 
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        contentWidth: width
-        contentHeight: sections.height
+                EyebrowText {
+                    text: "信息脉络"
+                }
 
-        Keys.forwardTo: [scroller]
-
-        T.ScrollBar.vertical: OverlayScrollBar {}
-
-        Column {
-            id: sections
-
-            x: sheet.sideMargin
-            width: body.width - 2 * x
-            topPadding: 20
-            bottomPadding: 28
-            spacing: 20
-
-            Optional {
-                when: threadPage.hasDigest
-
-                ThreadSection {
-                    width: sections.width
-                    heading: "页内要点"
-                    text: threadPage.digest
+                HeadingText {
+                    width: parent.width
+                    text: threadPage.title
+                    textStyle: InformationTheme.title1
+                    maximumLineCount: 3
+                    elide: Text.ElideRight
                 }
             }
 
-            ThreadTimeline {
-                width: parent.width
-                rows: threadPage.timeline
+            QuietButton {
+                id: closeButton
+
+                anchors.right: parent.right
+                anchors.rightMargin: sheet.sideMargin - rightPadding
+                y: 24
+                text: "关闭"
+                onClicked: sheet.close()
             }
 
-            CitrineButton {
-                text: "看最新原文"
-                iconPath: IconPaths.arrowUpRight
-                iconStroke: 2.25
-                iconTrails: true
-                enabled: threadPage.originalAddress !== ""
-                onClicked: LinkOpener.open(threadPage.originalAddress)
+            Rectangle {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: 1
+                color: InformationTheme.hair
             }
+        }
+
+        Flickable {
+            id: body
+
+            y: header.height
+            width: parent.width
+            height: parent.height - y
+
+            boundsBehavior: Flickable.StopAtBounds
+            clip: true
+            contentWidth: width
+            contentHeight: sections.height
+
+            Keys.forwardTo: [scroller]
+
+            T.ScrollBar.vertical: OverlayScrollBar {}
 
             Column {
-                width: parent.width
-                visible: threadPage.relatedSources.length > 0 || threadPage.kept
-                spacing: 16
+                id: sections
 
-                Rectangle {
+                x: sheet.sideMargin
+                width: body.width - 2 * x
+                topPadding: 20
+                bottomPadding: 28
+                spacing: 20
+
+                Optional {
+                    when: threadPage.hasDigest
+
+                    ThreadSection {
+                        width: sections.width
+                        heading: "页内要点"
+                        text: threadPage.digest
+                    }
+                }
+
+                ThreadTimeline {
                     width: parent.width
-                    height: 1
-                    color: InformationTheme.hair
+                    rows: threadPage.timeline
+                }
+
+                Optional {
+                    when: threadPage.originalAddress !== ""
+
+                    CitrineButton {
+                        text: "看最新原文"
+                        iconPath: IconPaths.arrowUpRight
+                        iconStroke: 2.25
+                        iconTrails: true
+                        onClicked: LinkOpener.open(threadPage.originalAddress)
+                    }
                 }
 
                 Column {
                     width: parent.width
-                    spacing: 12
+                    visible: threadPage.relatedSources.length > 0 || threadPage.kept
+                    spacing: 16
 
-                    Optional {
-                        when: threadPage.relatedSources.length > 0
-
-                        RelatedSourceLinks {
-                            width: sections.width
-                            sources: threadPage.relatedSources
-                        }
+                    Rectangle {
+                        width: parent.width
+                        height: 1
+                        color: InformationTheme.hair
                     }
 
-                    Optional {
-                        when: threadPage.kept
+                    Column {
+                        width: parent.width
+                        spacing: 12
 
-                        KeptNote {
-                            width: sections.width
-                            thread: threadPage
-                            onCursorMoved: (editor, y, height) => scroller.reveal(editor, y, height)
+                        Optional {
+                            when: threadPage.relatedSources.length > 0
+
+                            RelatedSourceLinks {
+                                width: sections.width
+                                sources: threadPage.relatedSources
+                            }
+                        }
+
+                        Optional {
+                            when: threadPage.kept
+
+                            KeptNote {
+                                width: sections.width
+                                thread: threadPage
+                                onCursorMoved: (editor, y, height) => scroller.reveal(editor, y, height)
+                            }
                         }
                     }
                 }
             }
         }
-    }
 
-    PaneScroller {
-        id: scroller
+        PaneScroller {
+            id: scroller
 
-        pane: body
+            pane: body
+        }
     }
 }

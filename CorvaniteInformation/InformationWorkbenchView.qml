@@ -1,3 +1,6 @@
+pragma ComponentBehavior: Bound
+
+import QtQml
 import QtQuick
 import QtQuick.Window
 import CorvaniteInformation
@@ -23,6 +26,14 @@ Window {
 
     // After the first frame, which nothing may delay; the model sees to it that it happens once.
     onFrameSwapped: workbench.probeAppUpdateOnce()
+
+    function openThread(signalId: string) {
+        sheet.show("InformationThreadView.qml", { workbench, signalId });
+    }
+
+    function openHandIn() {
+        sheet.show("AddSourceView.qml", { workbench });
+    }
 
     FocusScope {
         id: page
@@ -52,18 +63,42 @@ Window {
                     surface: InformationModel.Today
                     label: "今天"
                     iconPath: IconPaths.sparkles
+                },
+                SurfaceEntry {
+                    surface: InformationModel.Kept
+                    label: "已收下"
+                    iconPath: IconPaths.squareStack
+                },
+                SurfaceEntry {
+                    surface: InformationModel.Weekly
+                    label: "周报"
+                    iconPath: IconPaths.calendar
+                },
+                SurfaceEntry {
+                    surface: InformationModel.Archive
+                    label: "往期"
+                    iconPath: IconPaths.clockArrowCirclepath
+                },
+                SurfaceEntry {
+                    surface: InformationModel.Sources
+                    label: "信源"
+                    iconPath: IconPaths.antennaRadiowavesLeftAndRight
                 }
             ]
+            onHandInRequested: window.openHandIn()
         }
 
-        TodaySurface {
+        WorkbenchSurfaces {
+            id: surfaces
+
             anchors.top: header.bottom
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: footer.top
             focus: true
             workbench: window.workbench
-            onThreadRequested: signalId => thread.show(signalId)
+            siteOrigin: window.siteOrigin
+            onThreadRequested: signalId => window.openThread(signalId)
         }
 
         SiteFooter {
@@ -85,24 +120,8 @@ Window {
         }
     }
 
-    Loader {
-        id: thread
-
-        function show(signalId: string) {
-            setSource("InformationThreadView.qml", {
-                workbench: window.workbench,
-                signalId: signalId,
-                visible: true
-            });
-        }
-
-        Connections {
-            target: thread.item as InformationThreadView
-
-            function onClosed() {
-                thread.source = "";
-            }
-        }
+    SheetLoader {
+        id: sheet
     }
 
     ErrorAlert {
@@ -118,6 +137,31 @@ Window {
         target: InformationTheme
         property: "reducedMotion"
         value: window.appearance.reducedMotion
+    }
+
+    Instantiator {
+        model: header.surfaces
+
+        delegate: Shortcut {
+            required property SurfaceEntry modelData
+            required property int index
+
+            sequence: `Ctrl+${index + 1}`
+            onActivated: {
+                window.workbench.surface = modelData.surface;
+                surfaces.forceActiveFocus(Qt.ShortcutFocusReason);
+            }
+        }
+    }
+
+    Shortcut {
+        sequence: "Ctrl+N"
+        onActivated: window.openHandIn()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+F"
+        onActivated: surfaces.searchKept()
     }
 
     Shortcut {

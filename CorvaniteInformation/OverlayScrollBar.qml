@@ -15,6 +15,8 @@ T.ScrollBar {
     rightPadding: 6
     minimumSize: height > 0 ? 32 / height : 0
 
+    Accessible.ignored: true
+
     contentItem: Rectangle {
         implicitWidth: 8
         implicitHeight: 8

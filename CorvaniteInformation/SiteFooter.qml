@@ -18,11 +18,20 @@ Rectangle {
 
     Accessible.role: Accessible.StatusBar
 
-    component SiteLink: LinkText {
-        required property string page
-
+    component FooterLink: LinkText {
         textStyle: InformationTheme.caption
         restTint: InformationTheme.ink2
+    }
+
+    component SurfaceLink: FooterLink {
+        required property int surface
+
+        onClicked: footer.workbench.surface = surface
+    }
+
+    component SiteLink: FooterLink {
+        required property string page
+
         onClicked: LinkOpener.open(LinkOpener.sitePage(footer.siteOrigin, page))
     }
 
@@ -86,6 +95,21 @@ Rectangle {
             color: InformationTheme.ink3
             textStyle: InformationTheme.caption
             wrapMode: Text.NoWrap
+        }
+
+        SurfaceLink {
+            text: "往期精选"
+            surface: InformationModel.Archive
+        }
+
+        SurfaceLink {
+            text: "周报精选"
+            surface: InformationModel.Weekly
+        }
+
+        SurfaceLink {
+            text: "信源清单"
+            surface: InformationModel.Sources
         }
 
         SiteLink {

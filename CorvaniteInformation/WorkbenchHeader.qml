@@ -12,12 +12,13 @@ Rectangle {
     property alias surfaces: switcher.surfaces
 
     readonly property bool wide: width >= 1040
-    readonly property bool hasSwitcher: switcher.surfaces.length > 1
     readonly property int sideMargin: wide ? 24 : 20
     readonly property real freeLeft: brand.x + brand.width
     readonly property real freeWidth: actions.x - freeLeft
 
-    implicitHeight: hasSwitcher && !wide ? 112 : 64
+    signal handInRequested
+
+    implicitHeight: wide ? 64 : 112
     color: InformationTheme.canvas
 
     Accessible.role: Accessible.ToolBar
@@ -46,7 +47,6 @@ Rectangle {
         x: header.wide ? Math.round(header.width >= 1108 ? inWindow : inFreeSpace) : header.sideMargin
         y: header.wide ? 14 : 64
         width: header.wide ? implicitWidth : header.width - 2 * header.sideMargin
-        visible: header.hasSwitcher
         current: header.workbench.surface
         stretched: !header.wide
         onChosen: surface => header.workbench.surface = surface
@@ -61,11 +61,23 @@ Rectangle {
         height: 38
         spacing: 12
 
-        SyncButton {
-            anchors.verticalCenter: parent.verticalCenter
-            running: header.workbench.isSyncingPack
-            help: (header.workbench.syncHelp + "\n" + header.workbench.packSyncNote).trim()
-            onClicked: header.workbench.refreshPackFromSite()
+        Row {
+            height: parent.height
+            spacing: 8
+
+            SyncButton {
+                anchors.verticalCenter: parent.verticalCenter
+                running: header.workbench.isSyncingPack
+                help: (header.workbench.syncHelp + "\n" + header.workbench.packSyncNote).trim()
+                onClicked: header.workbench.refreshPackFromSite()
+            }
+
+            CitrineButton {
+                text: "添加信息"
+                iconPath: IconPaths.plus
+                iconStroke: 2.25
+                onClicked: header.handInRequested()
+            }
         }
 
         WindowButtons {

@@ -1,124 +1,241 @@
 #!/usr/bin/python3
-"""Takes pictures of every screen of the program, in three sizes, light and dark."""
+"""The picture tour: takes a picture of every screen and state of the program, light and dark.
+
+Without --size each screen has its own, and the pictures are made small, as docs/pictures keeps them.
+"""
 
 import argparse
+import os
 import sys
 from collections.abc import Callable
+from dataclasses import dataclass
 from pathlib import Path
 
+from commands import answer_of
 from program import Program
 from world import World
 
 REPOSITORY = Path(__file__).resolve().parents[2]
 
 SCHEMES = ["light", "dark"]
-SIZES = [(760, 640), (1120, 780), (1680, 1050)]
+ROOMY = (1680, 1050)
+"""Everything that a screen is reached by shows at this size."""
+USUAL = (1120, 780)
+
+COLORS = 96
+"""So many are enough for a picture that is looked at in a document."""
 
 
-def today(_: Program) -> None:
-    pass
+class Tour:
+    """How the reader gets to each screen. Each goes on from what the one before left."""
+
+    def __init__(self, program: Program, world: World):
+        self._program = program
+        self._world = world
+
+    def today(self) -> None:
+        self._program.press_keys("ctrl+1", "Home")
+
+    def today_unfolded(self) -> None:
+        self.today()
+        self._program.press_keys("End")
+        self._press_first("其余 ")
+
+    def today_change(self) -> None:
+        self.today()
+        self._scroll_to("看变化")
+        self._press_first("看变化")
+
+    def today_kept(self) -> None:
+        self.today()
+        self._press_first("收下并持续更新：")
+        self._press_first("收下并持续更新：")
+
+    def today_adjusted(self) -> None:
+        self.today()
+        self._press_first("这类少看：")
+
+    def today_narrow(self) -> None:
+        self.today()
+
+    def today_narrow_list(self) -> None:
+        self.today()
+
+    def today_wide(self) -> None:
+        self.today()
+
+    def thread(self) -> None:
+        self.today()
+        self._press_first("打开脉络：")
+
+    def hand_in(self) -> None:
+        self._program.press_keys("ctrl+n")
+        self._program.wait_for("链接或一句话")
+
+    def hand_in_refused(self) -> None:
+        self.hand_in()
+        self._program.wait_for("链接或一句话").set_text("http://127.0.0.1/")
+        self._program.wait_for("交给 Corvanite", "push button").press()
+
+    def kept_empty(self) -> None:
+        self._program.press_keys("ctrl+2")
+
+    def kept(self) -> None:
+        self._program.press_keys("ctrl+n")
+        self._program.wait_for("链接或一句话").set_text("每周看看开源排版引擎有没有新版本")
+        self._program.wait_for("交给 Corvanite", "push button").press()
+        self._program.wait_for("你交给 Corvanite 的内容")
+        self._program.press_keys("Escape")
+
+    def kept_no_match(self) -> None:
+        self._program.press_keys("ctrl+f")
+        self._program.wait_for("搜索已收下").set_text("没有这样的内容")
+
+    def weekly(self) -> None:
+        self._program.press_keys("ctrl+2", "ctrl+f", "Escape", "ctrl+3", "Home")
+
+    def archive(self) -> None:
+        self._program.press_keys("ctrl+4", "Home")
+
+    def archive_day(self) -> None:
+        self.archive()
+        self._press_first("查看")
+
+    def archive_day_end(self) -> None:
+        self._program.press_keys("ctrl+4")
+
+    def sources(self) -> None:
+        self._program.press_keys("ctrl+5", "Home")
+
+    def sources_end(self) -> None:
+        self._program.press_keys("ctrl+5")
+
+    def sync_failed(self) -> None:
+        self.today()
+        self._program.press_keys("F5")
+        self._program.wait_for_beginning("同步失败")
+
+    def alert(self) -> None:
+        """The reader's folder is taken away for a moment."""
+        self.today()
+        folder = self._world.data_home / "Corvanite/Information"
+        away = folder.with_name("away")
+        folder.rename(away)
+        folder.write_text("")
+        self._press_first("收下并持续更新：")
+        self._program.wait_for("知道了")
+        folder.unlink()
+        away.rename(folder)
+
+    def end(self) -> None:
+        self._program.press_keys("End")
+
+    def _scroll_to(self, name: str) -> None:
+        """Turns the page until the element shows whole."""
+        for _ in range(40):
+            self._program.wait_until_still()
+            if self._program.find_all(lambda e: e.name == name):
+                self._program.press_keys("Down", "Down", "Down")
+                return
+            self._program.press_keys("Next")
+        raise TimeoutError(f"not on the page: {name}")
+
+    def _press_first(self, beginning: str) -> None:
+        self._program.wait_for_beginning(beginning).press()
 
 
-def today_with_receipt(program: Program) -> None:
-    press_first(program, "收下并持续更新：")
-    press_first(program, "收下并持续更新：")
+@dataclass(frozen=True)
+class Screen:
+    open: Callable[[Tour], None]
+    size: tuple[int, int] = USUAL
+    then: Callable[[Tour], None] = lambda tour: None
+    """What is done once the window has its size."""
+
+    @property
+    def name(self) -> str:
+        return self.open.__name__.replace("_", "-")
 
 
-def thread(program: Program) -> None:
-    press_first(program, "打开脉络：")
+NARROW = (760, 780)
 
-
-def hand_in(program: Program) -> None:
-    program.press_keys("Escape")
-    program.wait_for("添加信息", "push button").press()
-
-
-def hand_in_with_error(program: Program) -> None:
-    program.wait_for("交给 Corvanite", "push button").press()
-
-
-def kept(program: Program) -> None:
-    program.press_keys("Escape")
-    open_surface(program, "已收下")
-
-
-def kept_without_match(program: Program) -> None:
-    program.wait_for("搜索已收下").set_text("没有这样的内容")
-
-
-def weekly(program: Program) -> None:
-    open_surface(program, "周报")
-
-
-def archive(program: Program) -> None:
-    open_surface(program, "往期")
-
-
-def archive_day(program: Program) -> None:
-    press_first(program, "查看")
-
-
-def sources(program: Program) -> None:
-    open_surface(program, "信源")
-
-
-SCREENS: list[Callable[[Program], None]] = [
-    today,
-    today_with_receipt,
-    thread,
-    hand_in,
-    hand_in_with_error,
-    kept,
-    kept_without_match,
-    weekly,
-    archive,
-    archive_day,
-    sources,
+SCREENS = [
+    Screen(Tour.today),
+    Screen(Tour.today_narrow, NARROW),
+    Screen(Tour.today_narrow_list, NARROW, Tour.end),
+    Screen(Tour.today_wide, ROOMY),
+    Screen(Tour.kept_empty),
+    Screen(Tour.today_kept),
+    Screen(Tour.today_adjusted),
+    Screen(Tour.today_unfolded),
+    Screen(Tour.today_change),
+    Screen(Tour.thread),
+    Screen(Tour.hand_in),
+    Screen(Tour.hand_in_refused),
+    Screen(Tour.kept),
+    Screen(Tour.kept_no_match),
+    Screen(Tour.weekly),
+    Screen(Tour.archive),
+    Screen(Tour.archive_day),
+    Screen(Tour.archive_day_end, then=Tour.end),
+    Screen(Tour.sources),
+    Screen(Tour.sources_end, then=Tour.end),
+    Screen(Tour.sync_failed),
+    Screen(Tour.alert),
 ]
-"""Each goes on from where the one before left the program."""
 
 
-def open_surface(program: Program, label: str) -> None:
-    program.wait_for(label, "page tab").press()
-
-
-def press_first(program: Program, beginning: str) -> None:
-    program.wait_for_beginning(beginning).press()
-
-
-def take_pictures(program_file: Path, folder: Path) -> int:
-    """The number of screens that could not be shown."""
-    missing = 0
-    for scheme in SCHEMES:
-        with World(scheme) as world:
-            for width, height in SIZES:
-                data_home = world.folder / f"data-{width}"
-                program = world.start(program_file, data_home)
-                program.resize(width, height)
+def take_pictures(
+    program_file: Path, folder: Path, schemes: list[str], sizes: list[tuple[int, int]]
+) -> None:
+    for scheme in schemes:
+        for size in sizes or [None]:
+            with World(scheme) as world:
+                program = world.start(program_file)
+                tour = Tour(program, world)
                 for screen in SCREENS:
-                    name = f"{screen.__name__.replace('_', '-')}-{width}-{scheme}"
-                    try:
-                        screen(program)
-                        program.save_picture(folder / f"{name}.png")
-                    except TimeoutError as reason:
-                        missing += 1
-                        print(f"{name}: {reason}", file=sys.stderr)
+                    program.resize(*ROOMY)
+                    program.press_keys("Escape", "Escape")
+                    screen.open(tour)
+                    program.resize(*(size or screen.size))
+                    screen.then(tour)
+                    width = f"-{size[0]}" if size else ""
+                    picture = folder / f"{screen.name}{width}-{scheme}.png"
+                    program.save_picture(picture)
+                    if not size:
+                        make_small(picture)
                 program.close()
-    return missing
+
+
+def make_small(picture: Path) -> None:
+    options = ["+dither", "-colors", str(COLORS), "-strip", "-define", "png:compression-level=9"]
+    answer_of(["convert", str(picture), *options, str(picture)], os.environ)
+
+
+def parse_size(text: str) -> tuple[int, int]:
+    width, height = text.split("x")
+    return int(width), int(height)
 
 
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("folder", type=Path, help="where the pictures go")
+    parser.add_argument("--size", type=parse_size, action="append", default=[], metavar="WxH")
+    parser.add_argument("--scheme", choices=SCHEMES, action="append")
     parser.add_argument(
         "--program",
         type=Path,
-        default=REPOSITORY / "build/dev/bin/corvanite-information",
+        default=REPOSITORY / "build/ci/bin/corvanite-information",
         help="default: %(default)s",
     )
     arguments = parser.parse_args()
     arguments.folder.mkdir(parents=True, exist_ok=True)
-    return 1 if take_pictures(arguments.program.resolve(), arguments.folder) else 0
+    take_pictures(
+        arguments.program.resolve(),
+        arguments.folder,
+        arguments.scheme or SCHEMES,
+        arguments.size,
+    )
+    return 0
 
 
 if __name__ == "__main__":

@@ -1,47 +1,10 @@
-#include "AppearancePortal.h"
-#include "FakeSiteClient.h"
-#include "InformationModel.h"
-#include "MemoryFileManager.h"
+#include "Browser.h"
 #include "ProductSite.h"
+#include "SampleModel.h"
+#include "SiteDocuments.h"
+#include "WorkbenchWindow.h"
 
-#include <QAccessible>
-#include <QDBusConnection>
-#include <QDesktopServices>
-#include <QQmlApplicationEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QTest>
-#include <QUrl>
-#include <QtQml/qqmlextensionplugin.h>
-
-Q_IMPORT_QML_PLUGIN(CorvaniteInformationPlugin)
-
-namespace {
-
-InformationSignal signalWithId(const QString& id)
-{
-    InformationSignal signal{};
-    signal.id = id;
-    signal.title = u"标题 "_qs + id;
-    return signal;
-}
-
-} // namespace
-
-/// Stands in for the browser.
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public:
-    Browser() { QDesktopServices::setUrlHandler(u"https"_qs, this, "take"); }
-    ~Browser() override { QDesktopServices::unsetUrlHandler(u"https"_qs); }
-
-    QList<QUrl> opened;
-
-public Q_SLOTS:
-    void take(const QUrl& url) { opened.append(url); }
-};
+using Surface = InformationModel::Surface;
 
 class InformationWorkbenchViewTest : public QObject
 {
@@ -50,26 +13,26 @@ class InformationWorkbenchViewTest : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_warnings.clear();
-        m_files.emplace();
-        m_site.emplace();
-        makeModel();
+        m_sample.emplace();
+        m_sample->selectionDays = {{u"2026-09-01"_qs, {u"a"_qs}, 3}};
         load();
     }
 
     void cleanup()
     {
-        m_engine.reset();
+        const auto warnings = m_window ? m_window->warnings() : QStringList();
+        m_window.reset();
         m_model.reset();
-        QCOMPARE(m_warnings, QList<QQmlError>());
+        QCOMPARE(warnings, QStringList());
     }
 
     void theWindow()
     {
-        QCOMPARE(m_window->title(), u"Corvanite Information"_qs);
-        QCOMPARE(m_window->size(), QSize(1120, 780));
-        QCOMPARE(m_window->minimumSize(), QSize(720, 560));
-        QVERIFY(m_window->flags().testFlag(Qt::FramelessWindowHint));
+        const auto* const window = m_window->window();
+        QCOMPARE(window->title(), u"Corvanite Information"_qs);
+        QCOMPARE(window->size(), QSize(1120, 780));
+        QCOMPARE(window->minimumSize(), QSize(720, 560));
+        QVERIFY(window->flags().testFlag(Qt::FramelessWindowHint));
     }
 
     void rolesAndNames_data()
@@ -91,15 +54,166 @@ private Q_SLOTS:
     void rolesAndNames()
     {
         QFETCH(const QAccessible::Role, role);
-        QVERIFY(find(QString::fromUtf8(QTest::currentDataTag()), role));
+        QVERIFY(m_window->find(QString::fromUtf8(QTest::currentDataTag()), role));
     }
 
-    void whatDoesNotExistYetIsNotThere()
+    void whatIsNotDueIsNotThere()
     {
-        for (const auto& name : {u"添加信息"_qs, u"今天"_qs, u"关闭回执"_qs, u"获取更新"_qs}) {
-            QVERIFY(!find(name, QAccessible::Button));
-            QVERIFY(!find(name, QAccessible::PageTab));
+        for (const auto& name : {u"关闭回执"_qs, u"获取更新"_qs}) {
+            QVERIFY(!m_window->find(name, QAccessible::Button));
         }
+    }
+
+    void everyWayToASurface_data()
+    {
+        QTest::addColumn<QAccessible::Role>("role");
+        QTest::addColumn<Surface>("surface");
+
+        QTest::newRow("今天") << QAccessible::PageTab << Surface::Today;
+        QTest::newRow("已收下") << QAccessible::PageTab << Surface::Kept;
+        QTest::newRow("周报") << QAccessible::PageTab << Surface::Weekly;
+        QTest::newRow("往期") << QAccessible::PageTab << Surface::Archive;
+        QTest::newRow("信源") << QAccessible::PageTab << Surface::Sources;
+        QTest::newRow("往期精选") << QAccessible::Link << Surface::Archive;
+        QTest::newRow("周报精选") << QAccessible::Link << Surface::Weekly;
+        QTest::newRow("信源清单") << QAccessible::Link << Surface::Sources;
+    }
+
+    void everyWayToASurface()
+    {
+        QFETCH(const QAccessible::Role, role);
+        QFETCH(const Surface, surface);
+        m_model->setSurface(surface == Surface::Today ? Surface::Kept : Surface::Today);
+        m_window->press(QString::fromUtf8(QTest::currentDataTag()), role);
+        QCOMPARE(m_model->surface(), surface);
+    }
+
+    void theKeysOfTheSurfaces_data()
+    {
+        QTest::addColumn<Surface>("surface");
+        QTest::addColumn<QString>("title");
+
+        QTest::newRow("1") << Surface::Today << u"今天先看 2 条"_qs;
+        QTest::newRow("2") << Surface::Kept << u"已收下"_qs;
+        QTest::newRow("3") << Surface::Weekly << u"周报精选"_qs;
+        QTest::newRow("4") << Surface::Archive << u"回看任何一天的 Corvanite。"_qs;
+        QTest::newRow("5") << Surface::Sources << u"每一张卡从哪里来，全部摊开。"_qs;
+    }
+
+    void theKeysOfTheSurfaces()
+    {
+        QFETCH(const Surface, surface);
+        QFETCH(const QString, title);
+        m_model->setSurface(surface == Surface::Today ? Surface::Kept : Surface::Today);
+        m_window->find(u"添加信息"_qs, QAccessible::Button)->forceActiveFocus();
+
+        m_window->pressKey(Qt::Key(Qt::Key_0 + QByteArray(QTest::currentDataTag()).toInt()),
+                           Qt::ControlModifier);
+
+        QCOMPARE(m_model->surface(), surface);
+        QVERIFY(m_window->find(title, QAccessible::Heading));
+        // The next key scrolls the surface.
+        const auto* const focused = m_window->window()->activeFocusItem();
+        QVERIFY(focused);
+        QVERIFY(focused->property("contentY").isValid());
+    }
+
+    void aSurfaceStaysAsItWasLeft()
+    {
+        auto* const list = m_window->find(u"今天先看 2 条"_qs, QAccessible::List);
+        QVERIFY(list);
+        m_window->resize({1120, 560});
+        m_window->pressKey(Qt::Key_PageDown);
+        const auto position = list->property("contentY").toReal();
+        QVERIFY(position > 0);
+
+        m_window->pressKey(Qt::Key_5, Qt::ControlModifier);
+        QVERIFY(!list->isVisible());
+        m_window->pressKey(Qt::Key_1, Qt::ControlModifier);
+        QVERIFY(list->isVisible());
+        QCOMPARE(list->property("contentY").toReal(), position);
+        QCOMPARE(m_window->window()->activeFocusItem(), list);
+    }
+
+    void theFocusGoesAlongToAnArchivedDay()
+    {
+        m_window->pressKey(Qt::Key_3, Qt::ControlModifier);
+        m_window->awaited(u"查看9月1日 星期二的完整精选"_qs, QAccessible::Link)
+            ->forceActiveFocus(Qt::TabFocusReason);
+        m_window->pressKey(Qt::Key_Return);
+        QCOMPARE(m_model->surface(), Surface::Archive);
+        QVERIFY(m_window->find(u"2026年9月1日 的精选"_qs, QAccessible::Heading));
+
+        m_window->pressKey(Qt::Key_Left, Qt::AltModifier);
+        QVERIFY(!m_model->selectedArchiveDay());
+        QVERIFY(m_window->hasFocus(u"查看9月1日的完整精选"_qs, QAccessible::Button));
+    }
+
+    void theKeyOfTheSearch_data()
+    {
+        QTest::addColumn<Surface>("from");
+        QTest::newRow("elsewhere") << Surface::Today;
+        QTest::newRow("on the kept surface") << Surface::Kept;
+    }
+
+    void theKeyOfTheSearch()
+    {
+        QFETCH(const Surface, from);
+        m_model->setSurface(from);
+        m_window->pressKey(Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(m_model->surface(), Surface::Kept);
+        QVERIFY(m_window->hasFocus(u"搜索已收下"_qs, QAccessible::EditableText));
+    }
+
+    void theHandInSheetGivesTheFocusBack_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("opened by its button") << false;
+        QTest::newRow("opened by Ctrl+N") << true;
+    }
+
+    void theHandInSheetGivesTheFocusBack()
+    {
+        QFETCH(const bool, byKey);
+        auto* const add = m_window->find(u"添加信息"_qs, QAccessible::Button);
+        add->forceActiveFocus(Qt::TabFocusReason);
+        m_window->pressKey(byKey ? Qt::Key_N : Qt::Key_Return,
+                           byKey ? Qt::ControlModifier : Qt::NoModifier);
+        QTRY_VERIFY(m_window->hasFocus(u"链接或一句话"_qs, QAccessible::EditableText));
+
+        m_window->pressKey(Qt::Key_Escape);
+        QTRY_VERIFY(!m_window->find(u"链接或一句话"_qs, QAccessible::EditableText));
+        QVERIFY(add->hasActiveFocus());
+        QVERIFY(add->property("visualFocus").toBool());
+    }
+
+    void anOpenSheetKeepsTheWindowsKeysToItself()
+    {
+        m_window->pressKey(Qt::Key_N, Qt::ControlModifier);
+        QTRY_VERIFY(m_window->hasFocus(u"链接或一句话"_qs, QAccessible::EditableText));
+        m_window->pressKey(Qt::Key_3, Qt::ControlModifier);
+        m_window->pressKey(Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(m_model->surface(), Surface::Today);
+
+        for (int i = 0; i < 8; ++i) {
+            m_window->pressKey(Qt::Key_Tab);
+            QVERIFY(
+                ScreenReader::isWithin(m_window->find(u"交给 Corvanite"_qs, QAccessible::Dialog),
+                                       m_window->window()->activeFocusItem()));
+        }
+    }
+
+    void escapeClosesTheTopmostThingFirst()
+    {
+        m_model->toggleKeep(u"a"_qs);
+        m_window->pressKey(Qt::Key_N, Qt::ControlModifier);
+        QVERIFY(m_window->awaited(u"链接或一句话"_qs, QAccessible::EditableText));
+
+        m_window->pressKey(Qt::Key_Escape);
+        QTRY_VERIFY(!m_window->find(u"链接或一句话"_qs, QAccessible::EditableText));
+        QVERIFY(m_model->hasReceipt());
+        m_window->pressKey(Qt::Key_Escape);
+        QVERIFY(!m_model->hasReceipt());
     }
 
     void theLinksOpenPagesOfTheSite_data()
@@ -116,25 +230,24 @@ private Q_SLOTS:
     {
         QFETCH(const QString, address);
         const Browser browser;
-        press(QString::fromUtf8(QTest::currentDataTag()), QAccessible::Link);
+        m_window->press(QString::fromUtf8(QTest::currentDataTag()), QAccessible::Link);
         QCOMPARE(browser.opened, QList{QUrl(address)});
     }
 
     void aSyncSaysThatItRunsAndHowItWent()
     {
-        m_site->heldPaths = {ProductSite::packPath};
-        press(u"同步站点"_qs, QAccessible::Button);
-        auto* const button = awaited(u"同步中"_qs, QAccessible::Button);
+        m_sample->site->heldPaths = {ProductSite::packPath};
+        m_window->press(u"同步站点"_qs, QAccessible::Button);
+        auto* const button = m_window->awaited(u"同步中"_qs, QAccessible::Button);
         QVERIFY(button);
         QVERIFY(!button->isEnabled());
 
-        m_site->release();
+        m_sample->site->release();
         const auto result = u"同步失败，继续使用当前内容"_qs;
-        QVERIFY(awaited(result, QAccessible::AlertMessage));
+        QVERIFY(m_window->awaited(result, QAccessible::AlertMessage));
         QVERIFY(button->isEnabled());
-        const auto* const accessible = QAccessible::queryAccessibleInterface(button);
-        QCOMPARE(accessible->text(QAccessible::Name), u"同步站点"_qs);
-        QCOMPARE(accessible->text(QAccessible::Description),
+        QCOMPARE(m_window->find(u"同步站点"_qs, QAccessible::Button), button);
+        QCOMPARE(ScreenReader::description(button),
                  u"从 corvanite.example 拉取最新精选内容\n"_qs + result);
     }
 
@@ -151,47 +264,42 @@ private Q_SLOTS:
     {
         QFETCH(const Qt::Key, key);
         QFETCH(const Qt::KeyboardModifiers, modifiers);
-        m_site->requests.clear();
-        QTest::keyClick(m_window, key, modifiers);
-        QCOMPARE(m_site->requests.size(), 1);
+        m_sample->site->requests.clear();
+        m_window->pressKey(key, modifiers);
+        QCOMPARE(m_sample->site->requests.size(), 1);
     }
 
     void theBannerOffersANewerBuild()
     {
-        const auto address = u"https://corvanite.example/builds/1.2.3"_qs;
-        m_site->answers.insert(
+        const auto address = u"https://corvanite.example/download"_qs;
+        m_sample->site->answers.insert(
             ProductSite::appVersionPath,
-            SiteReply{.body = R"({"schemaVersion": "corvanite-information-app-version-v1",
-                                  "version": "1.2.3", "sha256": "00",
-                                  "downloadUrl": "https://corvanite.example/builds/1.2.3"})",
-                      .status = 200});
-        makeModel();
+            SiteReply{.body = SiteDocuments::appVersion(u"1.2.3"_qs), .status = 200});
         load();
-        QVERIFY(awaited(u"新版本 1.2.3 已发布"_qs, QAccessible::StaticText));
-        auto* const button = awaited(u"获取更新"_qs, QAccessible::Button);
+        QVERIFY(m_window->awaited(u"新版本 1.2.3 已发布"_qs, QAccessible::StaticText));
+        auto* const button = m_window->awaited(u"获取更新"_qs, QAccessible::Button);
         QVERIFY(button);
-        QCOMPARE(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Description),
-                 u"获取 Corvanite Information 新版本 1.2.3"_qs);
+        QCOMPARE(ScreenReader::description(button), u"获取 Corvanite Information 新版本 1.2.3"_qs);
 
         const Browser browser;
-        press(u"获取更新"_qs, QAccessible::Button);
+        m_window->press(u"获取更新"_qs, QAccessible::Button);
         QCOMPARE(browser.opened, QList{QUrl(address)});
 
-        press(u"关闭更新提示"_qs, QAccessible::Button);
-        QTRY_VERIFY(!find(u"获取更新"_qs, QAccessible::Button));
+        m_window->press(u"关闭更新提示"_qs, QAccessible::Button);
+        QTRY_VERIFY(!m_window->find(u"获取更新"_qs, QAccessible::Button));
     }
 
     void theReceiptBarComesAndGoesWithTheReceipt()
     {
         m_model->toggleKeep(u"a"_qs);
-        auto* const bar = awaited(m_model->receiptText(), QAccessible::AlertMessage);
+        auto* const bar = m_window->awaited(m_model->receiptText(), QAccessible::AlertMessage);
         QVERIFY(bar);
         QTRY_COMPARE(bar->opacity(), 1.0);
         QVERIFY(!bar->hasActiveFocus());
         const auto bottom = bar->mapRectToScene(bar->boundingRect()).bottom();
-        QCOMPARE(bottom, m_window->height() - 36 - 16.0);
+        QCOMPARE(bottom, m_window->window()->height() - 36 - 16.0);
 
-        press(u"关闭回执"_qs, QAccessible::Button);
+        m_window->press(u"关闭回执"_qs, QAccessible::Button);
         QVERIFY(!m_model->hasReceipt());
         QTRY_VERIFY(!bar->isVisible());
     }
@@ -199,19 +307,19 @@ private Q_SLOTS:
     void theReceiptBarTakesTheActionBack()
     {
         m_model->toggleKeep(u"a"_qs);
-        press(u"撤销"_qs, QAccessible::Button);
+        m_window->press(u"撤销"_qs, QAccessible::Button);
         QCOMPARE(m_model->keptItemCount(), 0);
-        QTRY_VERIFY(!find(u"撤销"_qs, QAccessible::Button));
+        QTRY_VERIFY(!m_window->find(u"撤销"_qs, QAccessible::Button));
     }
 
     void theReceiptBarIsNeverWiderThanTheWindow()
     {
         m_model->toggleKeep(u"a"_qs);
-        auto* const bar = awaited(m_model->receiptText(), QAccessible::AlertMessage);
+        auto* const bar = m_window->awaited(m_model->receiptText(), QAccessible::AlertMessage);
         QVERIFY(bar);
         QCOMPARE(bar->height(), 48.0);
         bar->setProperty("message", u"很长的回执。"_qs.repeated(12));
-        m_window->resize(720, 560);
+        m_window->resize({720, 560});
         QTRY_COMPARE(bar->width(), 720.0 - 48);
         QTRY_COMPARE(bar->height(), 64.0);
     }
@@ -219,10 +327,10 @@ private Q_SLOTS:
     void theKeysOfTheWindow()
     {
         m_model->toggleKeep(u"a"_qs);
-        QTest::keyClick(m_window, Qt::Key_Z, Qt::ControlModifier);
+        m_window->pressKey(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(m_model->keptItemCount(), 0);
         QVERIFY(m_model->hasReceipt());
-        QTest::keyClick(m_window, Qt::Key_Escape);
+        m_window->pressKey(Qt::Key_Escape);
         QVERIFY(!m_model->hasReceipt());
     }
 
@@ -237,130 +345,64 @@ private Q_SLOTS:
     void theAlertTellsUntilItIsAcknowledged()
     {
         QFETCH(const Qt::Key, key);
-        m_files->writeFailure = FileError::fromSystemError(ENOSPC);
+        m_sample->files.writeFailure = FileError::fromSystemError(ENOSPC);
         m_model->toggleKeep(u"a"_qs);
         QVERIFY(m_model->hasErrorMessage());
 
-        auto* const alert = awaited(u"Corvanite 没有改动原数据"_qs, QAccessible::AlertMessage);
+        auto* const alert =
+            m_window->awaited(u"Corvanite 没有改动原数据"_qs, QAccessible::AlertMessage);
         QVERIFY(alert);
-        QCOMPARE(QAccessible::queryAccessibleInterface(alert)->text(QAccessible::Description),
-                 m_model->errorText());
-        auto* const button = awaited(u"知道了"_qs, QAccessible::Button);
+        QCOMPARE(ScreenReader::description(alert), m_model->errorText());
+        auto* const button = m_window->awaited(u"知道了"_qs, QAccessible::Button);
         QVERIFY(button);
         QTRY_VERIFY(button->property("visualFocus").toBool());
 
-        QTest::keyClick(m_window, key);
+        m_window->pressKey(key);
         QTRY_VERIFY(!m_model->hasErrorMessage());
-        QTRY_VERIFY(!find(u"知道了"_qs, QAccessible::Button));
+        QTRY_VERIFY(!m_window->find(u"知道了"_qs, QAccessible::Button));
     }
 
     void theAlertIsThereFromTheStart()
     {
-        m_files->writeFailure = FileError::fromSystemError(ENOSPC);
+        m_sample->files.writeFailure = FileError::fromSystemError(ENOSPC);
         m_model->toggleKeep(u"a"_qs);
-        load();
-        QVERIFY(awaited(m_model->errorText(), QAccessible::StaticText));
+        m_window.reset();
+        m_window.emplace(*m_model);
+        QVERIFY(m_window->awaited(m_model->errorText(), QAccessible::StaticText));
     }
 
     void theWindowButtons()
     {
-        press(u"最大化"_qs, QAccessible::Button);
-        QTRY_COMPARE(m_window->visibility(), QWindow::Maximized);
-        press(u"还原"_qs, QAccessible::Button);
-        QTRY_COMPARE(m_window->visibility(), QWindow::Windowed);
-        press(u"最小化"_qs, QAccessible::Button);
-        QTRY_COMPARE(m_window->visibility(), QWindow::Minimized);
-        m_window->showNormal();
-        press(u"关闭窗口"_qs, QAccessible::Button);
-        QTRY_VERIFY(!m_window->isVisible());
+        m_window->press(u"最大化"_qs, QAccessible::Button);
+        QTRY_COMPARE(m_window->window()->visibility(), QWindow::Maximized);
+        m_window->press(u"还原"_qs, QAccessible::Button);
+        QTRY_COMPARE(m_window->window()->visibility(), QWindow::Windowed);
+        m_window->press(u"最小化"_qs, QAccessible::Button);
+        QTRY_COMPARE(m_window->window()->visibility(), QWindow::Minimized);
+        m_window->window()->showNormal();
+        m_window->press(u"关闭窗口"_qs, QAccessible::Button);
+        QTRY_VERIFY(!m_window->window()->isVisible());
     }
 
     void aDoubleClickOnTheHeaderMaximises()
     {
-        QTest::mouseDClick(m_window, Qt::LeftButton, {}, {500, 30});
-        QTRY_COMPARE(m_window->visibility(), QWindow::Maximized);
-        QTest::mouseDClick(m_window, Qt::LeftButton, {}, {500, 30});
-        QTRY_COMPARE(m_window->visibility(), QWindow::Windowed);
+        QTest::mouseDClick(m_window->window(), Qt::LeftButton, {}, {320, 30});
+        QTRY_COMPARE(m_window->window()->visibility(), QWindow::Maximized);
+        QTest::mouseDClick(m_window->window(), Qt::LeftButton, {}, {320, 30});
+        QTRY_COMPARE(m_window->window()->visibility(), QWindow::Windowed);
     }
 
 private:
-    void makeModel()
-    {
-        m_engine.reset();
-        m_model.emplace(InformationModel::Collaborators{.fileManager = *m_files,
-                                                        .now = [] { return 0.0; },
-                                                        .seedHistory = {},
-                                                        .site = *m_site,
-                                                        .allowedHost = u"corvanite.example"_qs,
-                                                        .runningVersion = u"1.0.0"_qs},
-                        InformationContent({signalWithId(u"a"_qs)}, {}, {}, {}),
-                        InformationWorkspaceRepository{u"/support/workspace"_qs});
-    }
-
     void load()
     {
-        m_engine.emplace();
-        connect(&*m_engine, &QQmlEngine::warnings, this,
-                [this](const QList<QQmlError>& warnings) { m_warnings += warnings; });
-        m_engine->addImportPath(u":/qt/qml"_qs);
-        m_engine->setInitialProperties({{u"workbench"_qs, QVariant::fromValue(&*m_model)},
-                                        {u"appearance"_qs, QVariant::fromValue(&m_appearance)},
-                                        {u"siteOrigin"_qs, u"https://corvanite.example/"_qs}});
-        m_engine->load(QUrl(u"qrc:/qt/qml/CorvaniteInformation/InformationWorkbenchView.qml"_qs));
-        QCOMPARE(m_engine->rootObjects().size(), 1);
-        m_window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().constFirst());
-        QVERIFY(QTest::qWaitForWindowActive(m_window));
-        // As when a screen reader starts: controls then say their roles anew.
-        QAccessible::setActive(false);
-        QAccessible::setActive(true);
+        m_window.reset();
+        m_model = m_sample->make();
+        m_window.emplace(*m_model);
     }
 
-    void press(const QString& name, QAccessible::Role role) const
-    {
-        auto* const item = awaited(name, role);
-        QVERIFY2(item, qPrintable(name));
-        QAccessible::queryAccessibleInterface(item)->actionInterface()->doAction(
-            QAccessibleActionInterface::pressAction());
-    }
-
-    /// The visible item of that name and role; null when there is none.
-    QQuickItem* find(const QString& name, QAccessible::Role role) const
-    {
-        return findBelow(m_window->contentItem(), name, role);
-    }
-
-    /// The same, once it is there.
-    QQuickItem* awaited(const QString& name, QAccessible::Role role) const
-    {
-        return QTest::qWaitFor([&] { return find(name, role) != nullptr; }) ? find(name, role)
-                                                                            : nullptr;
-    }
-
-    static QQuickItem* findBelow(QQuickItem* item, const QString& name, QAccessible::Role role)
-    {
-        if (!item->isVisible()) {
-            return nullptr;
-        }
-        auto* const accessible = QAccessible::queryAccessibleInterface(item);
-        if (accessible && accessible->role() == role &&
-            accessible->text(QAccessible::Name) == name) {
-            return item;
-        }
-        for (auto* const child : item->childItems()) {
-            if (auto* const found = findBelow(child, name, role)) {
-                return found;
-            }
-        }
-        return nullptr;
-    }
-
-    std::optional<MemoryFileManager> m_files;
-    std::optional<FakeSiteClient> m_site;
-    std::optional<InformationModel> m_model;
-    AppearancePortal m_appearance{QDBusConnection(u"nowhere"_qs)};
-    std::optional<QQmlApplicationEngine> m_engine;
-    QQuickWindow* m_window = nullptr;
-    QList<QQmlError> m_warnings;
+    std::optional<SampleModel> m_sample;
+    std::unique_ptr<InformationModel> m_model;
+    std::optional<WorkbenchWindow> m_window;
 };
 
 QTEST_MAIN(InformationWorkbenchViewTest)

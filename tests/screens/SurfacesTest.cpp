@@ -1,31 +1,14 @@
+#include "Browser.h"
 #include "SampleModel.h"
+#include "ScreenReader.h"
 
-#include <QAccessible>
-#include <QDesktopServices>
 #include <QQmlEngine>
-#include <QQuickItem>
 #include <QQuickView>
-#include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <optional>
 
 Q_IMPORT_QML_PLUGIN(CorvaniteInformationPlugin)
-
-/// Stands in for the browser.
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public:
-    Browser() { QDesktopServices::setUrlHandler(u"https"_qs, this, "take"); }
-    ~Browser() override { QDesktopServices::unsetUrlHandler(u"https"_qs); }
-
-    QList<QUrl> opened;
-
-public Q_SLOTS:
-    void take(const QUrl& url) { opened.append(url); }
-};
 
 /// The kept, weekly, archive and sources surfaces as a reader and a screen reader meet them.
 class SurfacesTest : public QObject
@@ -362,8 +345,7 @@ private Q_SLOTS:
         press(u"交给 Corvanite"_qs, QAccessible::Button);
         verifyThere(refusal, QAccessible::AlertMessage);
         auto* const field = find(u"链接或一句话"_qs, QAccessible::EditableText);
-        QCOMPARE(QAccessible::queryAccessibleInterface(field)->text(QAccessible::Description),
-                 refusal);
+        QCOMPARE(ScreenReader::description(field), refusal);
 
         field->forceActiveFocus();
         type("x");
@@ -446,9 +428,7 @@ private:
         m_view->show();
         m_view->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(&*m_view));
-        // As when a screen reader starts: controls then say their roles anew.
-        QAccessible::setActive(false);
-        QAccessible::setActive(true);
+        ScreenReader::start();
     }
 
     void verifyThere(const QString& name, QAccessible::Role role) const
@@ -460,8 +440,7 @@ private:
     {
         auto* const item = awaited(name, role);
         QVERIFY2(item, qPrintable(name));
-        QAccessible::queryAccessibleInterface(item)->actionInterface()->doAction(
-            QAccessibleActionInterface::pressAction());
+        ScreenReader::press(item);
     }
 
     void type(const QByteArray& text)
@@ -480,32 +459,13 @@ private:
     /// The first visible item of that name and role; null when there is none.
     QQuickItem* find(const QString& name, QAccessible::Role role) const
     {
-        return findBelow(m_view->contentItem(), name, role);
+        return ScreenReader::find(m_view->contentItem(), name, role);
     }
 
     /// The same, once it is there.
     QQuickItem* awaited(const QString& name, QAccessible::Role role) const
     {
-        return QTest::qWaitFor([&] { return find(name, role) != nullptr; }) ? find(name, role)
-                                                                            : nullptr;
-    }
-
-    static QQuickItem* findBelow(QQuickItem* item, const QString& name, QAccessible::Role role)
-    {
-        if (!item->isVisible()) {
-            return nullptr;
-        }
-        auto* const accessible = QAccessible::queryAccessibleInterface(item);
-        if (accessible && accessible->role() == role &&
-            accessible->text(QAccessible::Name) == name) {
-            return item;
-        }
-        for (auto* const child : item->childItems()) {
-            if (auto* const found = findBelow(child, name, role)) {
-                return found;
-            }
-        }
-        return nullptr;
+        return ScreenReader::awaited(m_view->contentItem(), name, role);
     }
 
     std::optional<SampleModel> m_sample;

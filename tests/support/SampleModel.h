@@ -18,6 +18,7 @@ struct SampleModel
     QList<InformationSignal> retiredSignals;
     QList<SelectionDay> selectionDays;
     QString packAsOf = u"2026-09-02T01:00:00.000Z"_qs;
+    bool hasRepository = true;
 
     /// A model over this, which has to outlive it.
     std::unique_ptr<InformationModel> make()
@@ -32,6 +33,7 @@ struct SampleModel
                 .runningVersion = u"1.0.0"_qs,
             },
             InformationContent(signals, retiredSignals, selectionDays, packAsOf),
-            InformationWorkspaceRepository::live(files).value());
+            hasRepository ? std::optional(InformationWorkspaceRepository::live(files).value())
+                          : std::nullopt);
     }
 };

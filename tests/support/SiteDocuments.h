@@ -19,7 +19,7 @@ inline QJsonArray signals(const QStringList& ids)
             {u"lane"_qs, u"workflow"_qs},
             {u"observedAt"_qs, u"2026-09-02T00:00:00Z"_qs},
             {u"originalUrl"_qs, QString(u"https://origin.example/"_qs + id)},
-            {u"title"_qs, QJsonObject()},
+            {u"title"_qs, QJsonObject{{u"zh"_qs, QString(u"Title of "_qs + id)}}},
             {u"why"_qs, QJsonObject()},
             {u"caveat"_qs, QJsonObject()},
             {u"timeline"_qs, QJsonArray()},
