@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import CorvaniteInformation
 
-/// A page as one scrolling column, its rows made as they come near. What stands above and below the
-/// rows is declared on the list's content and handed over as its head and foot: the list's own
-/// header and footer cannot be bound components in 6.4.
-ListView {
+/// A page as one scrolling column. What stands above and below the rows is declared on the list's
+/// content and handed over as its head and foot: the list's own header and footer cannot be bound
+/// components in 6.4.
+PaneList {
     id: list
 
     property Item head: null
@@ -16,16 +15,6 @@ ListView {
 
     topMargin: (width >= 1440 ? 40 : 32) + (head?.height ?? 0)
     bottomMargin: 40 + (foot?.height ?? 0)
-    boundsBehavior: Flickable.StopAtBounds
-    cacheBuffer: 2000
-    clip: true
-    currentIndex: -1
-    highlightFollowsCurrentItem: false
-    keyNavigationEnabled: false
-
-    Keys.forwardTo: [scroller]
-
-    T.ScrollBar.vertical: OverlayScrollBar {}
 
     Binding {
         target: list.head
@@ -37,16 +26,6 @@ ListView {
         target: list.foot
         property: "y"
         value: list.originY + list.contentHeight
-    }
-
-    ReadingOrder {
-        items: list.contentItem
-    }
-
-    PaneScroller {
-        id: scroller
-
-        pane: list
     }
 
     function scrollToTop() {

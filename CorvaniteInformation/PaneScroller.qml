@@ -12,10 +12,26 @@ Item {
     readonly property real lastY: Math.max(firstY, pane.originY + pane.contentHeight + pane.bottomMargin - pane.height)
     readonly property Item focused: pane.Window.activeFocusItem
 
+    /// The pane shows its beginning.
+    property bool atTop: true
+
     /// What is kept free above and below the item that is scrolled to.
     readonly property real air: 16
     readonly property real line: 48
     readonly property real leap: pane.height - line
+
+    // What was at its top stays there when the room above it changes.
+    onFirstYChanged: if (atTop)
+        pane.contentY = firstY
+
+    Connections {
+        target: scroller.pane
+
+        function onContentYChanged() {
+            // Not firstY, which may still be due to change.
+            scroller.atTop = scroller.pane.contentY <= scroller.pane.originY - scroller.pane.topMargin;
+        }
+    }
 
     // A press does not scroll what is under the pointer away.
     onFocusedChanged: if (holds(focused) && (focused as Pressable)?.visualFocus !== false)

@@ -22,7 +22,7 @@ AppButton {
     /// The height of the text alone. The link is taller than it looks, to be easy to press.
     readonly property real textHeight: label.height
 
-    implicitWidth: label.implicitWidth + arrowSpace
+    implicitWidth: Math.ceil(metrics.advanceWidth) + arrowSpace
     implicitHeight: Math.max(28, textHeight)
     radius: 2
     enabled: link.address !== ""
@@ -35,11 +35,19 @@ AppButton {
         cursorShape: Qt.PointingHandCursor
     }
 
+    // A text's own implicit width would change with the width that is made from it.
+    TextMetrics {
+        id: metrics
+
+        font: link.restFont
+        text: link.text
+    }
+
     AppText {
         id: label
 
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, link.width - link.arrowSpace)
+        width: link.width - link.arrowSpace
         text: link.text
         textStyle: link.textStyle
         font: link.hovered && !link.down ? link.hoverFont : link.restFont
@@ -50,8 +58,7 @@ AppButton {
     Icon {
         id: arrow
 
-        anchors.left: label.right
-        anchors.leftMargin: 4
+        x: label.contentWidth + 4
         anchors.bottom: label.bottom
         anchors.bottomMargin: (link.textStyle.lineHeight - height) / 2
         visible: link.enabled && link.hasArrow

@@ -12,7 +12,7 @@ Item {
     readonly property int axis: 6
     readonly property int nodeY: 12
 
-    implicitHeight: texts.height + (last ? 0 : 16)
+    implicitHeight: Math.max(texts.height, date.y + date.height) + (last ? 0 : 16)
 
     Rectangle {
         x: node.axis
@@ -33,9 +33,13 @@ Item {
     }
 
     AppText {
+        id: date
+
         x: 24
         width: 92
         y: 2
+        maximumLineCount: 4
+        elide: Text.ElideRight
         text: node.row.date
         textStyle: node.row.isNow ? InformationTheme.smallBold : InformationTheme.small
         color: node.row.isNow ? InformationTheme.accent : InformationTheme.ink2

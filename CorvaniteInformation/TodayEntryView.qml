@@ -13,6 +13,7 @@ FocusScope {
     required property int railStop
 
     signal threadRequested(signalId: string)
+    signal similarReduced(signalId: string)
     signal railLineFocused(position: int)
     signal railStepped(by: int)
 
@@ -43,11 +44,12 @@ FocusScope {
                 bottomPadding: 16
 
                 SignalCard {
+                    focus: true
                     width: parent.width
                     row: view.row.card
                     onClicked: view.threadRequested(row.signalId)
                     onKeepToggled: view.page.workbench.toggleKeep(row.signalId)
-                    onSimilarReduced: view.page.workbench.reduceSimilar(row.signalId)
+                    onSimilarReduced: view.similarReduced(row.signalId)
                 }
             }
         }

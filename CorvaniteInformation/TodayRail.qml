@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import CorvaniteInformation
 
 /// Everything of today's selection beside the column, and the data receipt, which stays at the foot
@@ -31,27 +30,18 @@ FocusScope {
         color: InformationTheme.hair
     }
 
-    ListView {
+    PaneList {
         id: lines
 
         width: parent.width
         height: foot.y
         topMargin: 32
         bottomMargin: rail.receiptPinned ? 0 : 20
-        boundsBehavior: Flickable.StopAtBounds
-        cacheBuffer: 3000
-        clip: true
-        currentIndex: -1
         focus: true
-        highlightFollowsCurrentItem: false
-        keyNavigationEnabled: false
         model: rail.page.railEntries
 
         Accessible.role: Accessible.List
         Accessible.name: "今日全部"
-        Keys.forwardTo: [scroller]
-
-        T.ScrollBar.vertical: OverlayScrollBar {}
 
         delegate: RailEntryView {
             required property int index
@@ -62,18 +52,8 @@ FocusScope {
             railStop: rail.railStop
             onThreadRequested: signalId => rail.threadRequested(signalId)
             onLineFocused: position => rail.lineFocused(position)
-            onStepped: by => scroller.focusRow(lines, index + by)
+            onStepped: by => lines.scroller.focusRow(lines, index + by)
         }
-    }
-
-    ReadingOrder {
-        items: lines.contentItem
-    }
-
-    PaneScroller {
-        id: scroller
-
-        pane: lines
     }
 
     Rectangle {

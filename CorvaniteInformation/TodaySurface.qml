@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import CorvaniteInformation
 
 /// What to read today: a column of cards and, beside it or below, the list of everything.
@@ -21,6 +20,14 @@ FocusScope {
     property int railLine: 0
     readonly property int railStop: Math.min(railLine, todayPage.railCount - 1)
 
+    /// The card goes; where the keyboard was on it, it goes on with what takes the card's place.
+    function reduce(signalId: string, index: int) {
+        const byKeyboard = (surface.Window.activeFocusItem as Pressable)?.visualFocus ?? false;
+        surface.workbench.reduceSimilar(signalId);
+        if (byKeyboard)
+            column.scroller.focusRow(column, Math.min(index, column.count - 1));
+    }
+
     Window.onActiveChanged: if (Window.active)
         todayPage.refresh()
 
@@ -32,7 +39,7 @@ FocusScope {
         receiptPinned: true
     }
 
-    ListView {
+    PaneList {
         id: column
 
         readonly property real columnWidth: Math.min(surface.wide ? 760 : 720, width - 48)
@@ -41,24 +48,11 @@ FocusScope {
         height: parent.height
         topMargin: surface.wide ? 40 : surface.twoPanes ? 32 : 24
         bottomMargin: surface.twoPanes ? 24 : 32
-        boundsBehavior: Flickable.StopAtBounds
-        cacheBuffer: 10000
-        clip: true
-        currentIndex: -1
         focus: true
-        highlightFollowsCurrentItem: false
-        keyNavigationEnabled: false
         model: todayPage.entries
 
         Accessible.role: Accessible.List
         Accessible.name: todayPage.title
-        Keys.forwardTo: [scroller]
-
-        // A list at its top stays there when the margin above it changes.
-        onTopMarginChanged: if (contentY <= originY)
-            contentY = originY - topMargin
-
-        T.ScrollBar.vertical: OverlayScrollBar {}
 
         delegate: TodayEntryView {
             required property int index
@@ -68,19 +62,10 @@ FocusScope {
             page: todayPage
             railStop: surface.railStop
             onThreadRequested: signalId => surface.threadRequested(signalId)
+            onSimilarReduced: signalId => surface.reduce(signalId, index)
             onRailLineFocused: position => surface.railLine = position
-            onRailStepped: by => scroller.focusRow(column, index + by)
+            onRailStepped: by => column.scroller.focusRow(column, index + by)
         }
-    }
-
-    ReadingOrder {
-        items: column.contentItem
-    }
-
-    PaneScroller {
-        id: scroller
-
-        pane: column
     }
 
     Optional {

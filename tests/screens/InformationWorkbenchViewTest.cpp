@@ -135,6 +135,16 @@ private Q_SLOTS:
         QCOMPARE(m_window->window()->activeFocusItem(), list);
     }
 
+    void theKeyboardGoesOnAfterACardIsGone()
+    {
+        m_window->awaited(u"这类少看：产品雷达"_qs, QAccessible::Button)
+            ->forceActiveFocus(Qt::TabFocusReason);
+        m_window->pressKey(Qt::Key_Return);
+        QCOMPARE(m_model->visibleSignals().size(), 1);
+        const auto left = m_model->visibleSignals().first().title;
+        QVERIFY(m_window->hasFocus(left, QAccessible::ListItem));
+    }
+
     void theFocusGoesAlongToAnArchivedDay()
     {
         m_window->pressKey(Qt::Key_3, Qt::ControlModifier);

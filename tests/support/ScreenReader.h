@@ -13,22 +13,30 @@ inline bool matches(QQuickItem* item, const QString& name, QAccessible::Role rol
     return accessible && accessible->role() == role && accessible->text(QAccessible::Name) == name;
 }
 
-/// The first visible item at or below `root` of that name and role; null when there is none.
-inline QQuickItem* find(QQuickItem* root, const QString& name, QAccessible::Role role)
+/// The first visible item at or below `root` for which the condition holds; null when there is
+/// none.
+template <typename Condition>
+QQuickItem* findIf(QQuickItem* root, const Condition& condition)
 {
     if (!root->isVisible()) {
         return nullptr;
     }
-    if (matches(root, name, role)) {
+    if (condition(root)) {
         return root;
     }
     const auto children = root->childItems();
     for (auto* const child : children) {
-        if (auto* const found = find(child, name, role)) {
+        if (auto* const found = findIf(child, condition)) {
             return found;
         }
     }
     return nullptr;
+}
+
+/// The first visible item at or below `root` of that name and role; null when there is none.
+inline QQuickItem* find(QQuickItem* root, const QString& name, QAccessible::Role role)
+{
+    return findIf(root, [&](QQuickItem* item) { return matches(item, name, role); });
 }
 
 /// The same, once it is there.

@@ -1,0 +1,155 @@
+#include "ScreenTour.h"
+
+#include <QSet>
+
+namespace {
+
+QAccessible::Role roleOf(QQuickItem* item)
+{
+    auto* const accessible = QAccessible::queryAccessibleInterface(item);
+    return accessible ? accessible->role() : QAccessible::NoRole;
+}
+
+QString told(QQuickItem* item)
+{
+    auto* const accessible = QAccessible::queryAccessibleInterface(item);
+    return accessible ? accessible->text(QAccessible::Name) : u"nothing"_qs;
+}
+
+/// Of a row of these one is a stop of the Tab key; the arrow keys lead to the others.
+bool isOneOfARow(QQuickItem* item)
+{
+    const auto role = roleOf(item);
+    return role == QAccessible::PageTab || role == QAccessible::RadioButton ||
+           told(item).startsWith(u"打开脉络：");
+}
+
+bool isForUse(QQuickItem* item)
+{
+    return item->inherits("Pressable") || item->inherits("QQuickTextInput") ||
+           item->inherits("QQuickTextEdit");
+}
+
+QRectF rectInScene(const QQuickItem* item)
+{
+    return item->mapRectToScene({0, 0, item->width(), item->height()});
+}
+
+} // namespace
+
+/// Everything that can be done by pointer can be done without one.
+class KeyboardTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u".?"_qs)); }
+
+    void theTabKeyReachesEverything_data()
+    {
+        QTest::addColumn<ScreenTour::Stop>("stop");
+        for (const auto& stop : ScreenTour::stops()) {
+            QTest::newRow(qPrintable(stop.name)) << stop;
+        }
+    }
+
+    void theTabKeyReachesEverything()
+    {
+        QFETCH(const ScreenTour::Stop, stop);
+        ScreenTour::Visit visit(stop, {1120, 780});
+        const auto& window = visit.window();
+
+        const auto stops = walk(window, Qt::Key_Tab);
+        QCOMPARE(m_faults.join(u'\n'), QString());
+        auto back = walk(window, Qt::Key_Backtab);
+        QCOMPARE(m_faults.join(u'\n'), QString());
+        QCOMPARE(QSet(back.cbegin(), back.cend()), QSet(stops.cbegin(), stops.cend()));
+
+        QStringList unreached;
+        collectUnreached(topmost(window), stops, unreached);
+        QCOMPARE(unreached.join(u'\n'), QString());
+    }
+
+private:
+    /// What the key leads to from where the focus is, until it has come round.
+    QList<QQuickItem*> walk(const WorkbenchWindow& window, Qt::Key key)
+    {
+        constexpr int atMost = 400;
+        m_faults.clear();
+        QList<QQuickItem*> stops;
+        for (int i = 0; i < atMost; ++i) {
+            QTest::keyClick(window.window(), key);
+            auto* const focused = window.window()->activeFocusItem();
+            if (!focused || stops.contains(focused)) {
+                return stops;
+            }
+            stops.append(focused);
+            if (isForUse(focused)) {
+                window.settle();
+                inspect(focused);
+            }
+        }
+        m_faults.append(u"the keys do not come round"_qs);
+        return stops;
+    }
+
+    /// What has the focus is seen to have it.
+    void inspect(QQuickItem* focused)
+    {
+        if (focused->inherits("Pressable") && !hasRing(focused)) {
+            m_faults.append(u"no ring: "_qs + told(focused));
+        }
+        const auto* pane = focused->parentItem();
+        while (pane && !pane->inherits("QQuickFlickable")) {
+            pane = pane->parentItem();
+        }
+        if (!pane) {
+            return;
+        }
+        const auto seen = rectInScene(pane).intersected(rectInScene(focused));
+        const auto due = std::min(pane->height(), focused->height());
+        if (seen.height() < due) {
+            m_faults.append(u"not in sight: "_qs + told(focused));
+        }
+    }
+
+    static bool hasRing(const QQuickItem* control)
+    {
+        return std::ranges::any_of(control->childItems(), [](const QQuickItem* child) {
+            return child->metaObject()->indexOfProperty("shown") >= 0 && child->isVisible();
+        });
+    }
+
+    /// The open sheet, or the whole window.
+    static QQuickItem* topmost(const WorkbenchWindow& window)
+    {
+        auto* const sheet = ScreenReader::findIf(window.content(), [](QQuickItem* item) {
+            return roleOf(item) == QAccessible::Dialog ||
+                   (roleOf(item) == QAccessible::AlertMessage &&
+                    told(item) == u"Corvanite 没有改动原数据");
+        });
+        return sheet ? sheet : window.content();
+    }
+
+    static void collectUnreached(QQuickItem* item, const QList<QQuickItem*>& reached,
+                                 QStringList& unreached)
+    {
+        if (!item->isVisible()) {
+            return;
+        }
+        const auto role = roleOf(item);
+        if (isForUse(item) && item->isEnabled() && role != QAccessible::NoRole &&
+            !isOneOfARow(item) && !reached.contains(item)) {
+            unreached.append(told(item));
+        }
+        const auto children = item->childItems();
+        for (auto* const child : children) {
+            collectUnreached(child, reached, unreached);
+        }
+    }
+
+    QStringList m_faults;
+};
+
+QTEST_MAIN(KeyboardTest)
+#include "KeyboardTest.moc"
