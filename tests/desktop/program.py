@@ -82,11 +82,18 @@ class Program:
         self._xdotool("windowmove", window, "0", "0")
         self._xdotool("windowsize", window, str(width), str(height))
         self.wait_until(lambda: self.size() == (width, height), f"the window is {width} x {height}")
+        self.wait_until(lambda: self._laid_out_size() == (width, height), "it is laid out anew")
 
     def size(self) -> tuple[int, int]:
         geometry = self._xdotool("getwindowgeometry", "--shell", self.window())
         values = dict(line.split("=") for line in geometry.splitlines())
         return int(values["WIDTH"]), int(values["HEIGHT"])
+
+    def _laid_out_size(self) -> tuple[int, int] | None:
+        """What the program believes its window to measure."""
+        frames = self.find_all(lambda element: element.role == "frame")
+        extents = frames[0].extents() if frames else None
+        return extents and (extents.width, extents.height)
 
     def press_keys(self, *keys: str) -> None:
         """Presses the keys one after the other, written as xdotool names them ("ctrl+1")."""
