@@ -1,0 +1,152 @@
+#include "Browser.h"
+#include "ScreenTour.h"
+
+/// The sheet with a signal's whole thread.
+class InformationThreadViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u".?"_qs));
+        m_visit.emplace(ScreenTour::Stop{.name = u"today"_qs}, QSize(1120, 780));
+    }
+
+    void cleanup() { m_visit.reset(); }
+
+    void everyWayToCloseIt_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("by its button") << false;
+        QTest::newRow("by Escape") << true;
+    }
+
+    void everyWayToCloseIt()
+    {
+        QFETCH(const bool, byKey);
+        auto* const card = window().find(u"Title of a"_qs, QAccessible::ListItem);
+        card->forceActiveFocus(Qt::TabFocusReason);
+        window().pressKey(Qt::Key_Return);
+        QTRY_VERIFY(window().hasFocus(u"关闭"_qs, QAccessible::Button));
+
+        window().pressKey(byKey ? Qt::Key_Escape : Qt::Key_Return);
+
+        QTRY_VERIFY(!window().find(u"Title of a"_qs, QAccessible::Dialog));
+        QVERIFY(card->hasActiveFocus());
+        QVERIFY(card->property("visualFocus").toBool());
+    }
+
+    void itsLinksOpenWhatCanBeOpened()
+    {
+        open(u"a"_qs);
+        const Browser browser;
+        window().press(u"看最新原文"_qs);
+        window().press(u"Related one"_qs, QAccessible::Link);
+        QCOMPARE(browser.opened,
+                 (QList{QUrl(u"https://origin.example/a"_qs), QUrl(u"https://one.example/"_qs)}));
+        QVERIFY(window().find(u"Related two"_qs, QAccessible::StaticText));
+        QVERIFY(!window().find(u"Related two"_qs, QAccessible::Link));
+    }
+
+    void anOriginalThatCannotBeOpenedIsNotOffered()
+    {
+        open(u"d"_qs);
+        QVERIFY(!window().find(u"看最新原文"_qs, QAccessible::Button));
+    }
+
+    void onlyAKeptSignalHasANote()
+    {
+        open(u"a"_qs);
+        QVERIFY(!note());
+        window().pressKey(Qt::Key_Escape);
+        model().toggleKeep(u"b"_qs);
+        open(u"b"_qs);
+        QVERIFY(note());
+        QVERIFY(window().find(u"Why b"_qs, QAccessible::StaticText));
+    }
+
+    void everyEditOfTheNoteIsStored()
+    {
+        openKept();
+        window().type("one");
+        QCOMPARE(stored(), u"one"_qs);
+        window().pressKey(Qt::Key_Return);
+        window().type("two");
+        QCOMPARE(stored(), u"one\ntwo"_qs);
+    }
+
+    void theTabKeyLeavesTheNote()
+    {
+        openKept();
+        window().pressKey(Qt::Key_Tab);
+        QVERIFY(!note()->hasActiveFocus());
+        window().pressKey(Qt::Key_Backtab);
+        QVERIFY(note()->hasActiveFocus());
+        QCOMPARE(stored(), QString());
+    }
+
+    void inTheNoteUndoIsTheFieldsOwn()
+    {
+        openKept();
+        model().toggleKeep(u"b"_qs);
+        QVERIFY(model().canUndo());
+        note()->forceActiveFocus();
+        window().type("x");
+        window().pressKey(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(stored(), QString());
+        QVERIFY(model().isKept(model().signalById(u"b"_qs).value()));
+    }
+
+    void anUndoOfTheKeepingTakesTheNoteAway()
+    {
+        model().toggleKeep(u"a"_qs);
+        open(u"a"_qs);
+        QVERIFY(note());
+        model().undoLastAction();
+        window().settle();
+        QVERIFY(!note());
+    }
+
+    void theCursorOfALongNoteStaysInSight()
+    {
+        openKept();
+        for (int line = 0; line < 40; ++line) {
+            window().pressKey(Qt::Key_Return);
+        }
+        const auto cursor = note()->property("cursorRectangle").toRectF();
+        const auto inScene = note()->mapRectToScene(cursor);
+        const auto* const sheet = window().find(u"Title of a"_qs, QAccessible::Dialog);
+        QVERIFY(sheet->mapRectToScene(sheet->boundingRect()).contains(inScene));
+    }
+
+private:
+    WorkbenchWindow& window() { return m_visit->window(); }
+    InformationModel& model() { return m_visit->model(); }
+
+    void open(const QString& id)
+    {
+        window().press(u"打开脉络：Title of "_qs + id);
+        QVERIFY(window().awaited(u"Title of "_qs + id, QAccessible::Dialog));
+    }
+
+    void openKept()
+    {
+        model().toggleKeep(u"a"_qs);
+        model().updateNote(u"a"_qs, QString());
+        open(u"a"_qs);
+        note()->forceActiveFocus();
+    }
+
+    QQuickItem* note()
+    {
+        return window().find(u"自己的备注（可选）"_qs, QAccessible::EditableText);
+    }
+
+    QString stored() { return model().workspace().saved.at(u"a"_qs).note; }
+
+    std::optional<ScreenTour::Visit> m_visit;
+};
+
+QTEST_MAIN(InformationThreadViewTest)
+#include "InformationThreadViewTest.moc"

@@ -1,0 +1,169 @@
+#include "ScreenTour.h"
+
+/// Today's surface under the reader's hands.
+class TodaySurfaceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u".?"_qs));
+        m_visit.emplace(ScreenTour::Stop{.name = u"today"_qs}, QSize(1120, 560));
+    }
+
+    void cleanup() { m_visit.reset(); }
+
+    void theKeysThatTurnPages_data()
+    {
+        QTest::addColumn<Qt::Key>("forth");
+        QTest::addColumn<Qt::Key>("back");
+        QTest::addColumn<Qt::KeyboardModifiers>("backModifiers");
+
+        const Qt::KeyboardModifiers none;
+        QTest::newRow("Page keys") << Qt::Key_PageDown << Qt::Key_PageUp << none;
+        QTest::newRow("arrows") << Qt::Key_Down << Qt::Key_Up << none;
+        QTest::newRow("Home and End") << Qt::Key_End << Qt::Key_Home << none;
+        QTest::newRow("Space") << Qt::Key_Space << Qt::Key_Space
+                               << Qt::KeyboardModifiers(Qt::ShiftModifier);
+    }
+
+    void theKeysThatTurnPages()
+    {
+        QFETCH(const Qt::Key, forth);
+        QFETCH(const Qt::Key, back);
+        QFETCH(const Qt::KeyboardModifiers, backModifiers);
+        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::List);
+        const auto top = list->property("contentY").toReal();
+
+        window().pressKey(forth);
+        QVERIFY(list->property("contentY").toReal() > top);
+        window().pressKey(back, backModifiers);
+        QCOMPARE(list->property("contentY").toReal(), top);
+    }
+
+    void theKeysWalkTheList()
+    {
+        focus(u"打开脉络：Title of a"_qs, QAccessible::Button);
+        for (const auto& [key, title] :
+             {std::pair(Qt::Key_Down, u"b"_qs), std::pair(Qt::Key_End, u"f"_qs),
+              std::pair(Qt::Key_Down, u"f"_qs), std::pair(Qt::Key_Up, u"e"_qs),
+              std::pair(Qt::Key_Home, u"a"_qs), std::pair(Qt::Key_Up, u"a"_qs)}) {
+            window().pressKey(key);
+            QVERIFY2(window().hasFocus(u"打开脉络：Title of "_qs + title, QAccessible::Button),
+                     qPrintable(title));
+        }
+    }
+
+    void theListIsOneStopWhereTheFocusWasLast()
+    {
+        focus(u"打开脉络：Title of a"_qs, QAccessible::Button);
+        window().pressKey(Qt::Key_Down);
+        window().pressKey(Qt::Key_Tab);
+        QVERIFY(!window().hasFocus(u"打开脉络：Title of c"_qs, QAccessible::Button));
+        window().pressKey(Qt::Key_Backtab);
+        QVERIFY(window().hasFocus(u"打开脉络：Title of b"_qs, QAccessible::Button));
+    }
+
+    void theArrowsChooseALane()
+    {
+        focus(u"全部 6"_qs, QAccessible::RadioButton);
+        window().pressKey(Qt::Key_Right);
+        QCOMPARE(model().activeLane(), InformationLane::OpenSourceGrowth);
+        QVERIFY(window().hasFocus(u"开源增长 1"_qs, QAccessible::RadioButton));
+        window().pressKey(Qt::Key_Left);
+        QCOMPARE(model().activeLane(), std::nullopt);
+        QVERIFY(window().hasFocus(u"全部 6"_qs, QAccessible::RadioButton));
+    }
+
+    void everyWayToOpenACard_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::newRow("Enter") << Qt::Key_Return;
+        QTest::newRow("Space") << Qt::Key_Space;
+        QTest::newRow("a press on its title") << Qt::Key_unknown;
+    }
+
+    void everyWayToOpenACard()
+    {
+        QFETCH(const Qt::Key, key);
+        focus(u"Title of a"_qs, QAccessible::ListItem);
+        if (key != Qt::Key_unknown) {
+            window().pressKey(key);
+        } else {
+            click(find(u"Title of a"_qs, QAccessible::Heading));
+        }
+        QVERIFY(window().awaited(u"Title of a"_qs, QAccessible::Dialog));
+    }
+
+    void anAnswerToACardDoesNotOpenIt()
+    {
+        auto* const keep = window().find(u"收下并持续更新：Title of a"_qs, QAccessible::Button);
+        keep->forceActiveFocus(Qt::TabFocusReason);
+        window().settle();
+        click(keep);
+        QVERIFY(model().isKept(model().signalById(u"a"_qs).value()));
+        QVERIFY(!find(u"Title of a"_qs, QAccessible::Dialog));
+        QVERIFY(find(u"从工作台移除并停止更新：Title of a"_qs, QAccessible::Button));
+    }
+
+    void whatWasOpenedIsSeen()
+    {
+        window().press(u"打开脉络：Title of a"_qs);
+        window().pressKey(Qt::Key_Escape);
+        QTRY_VERIFY(!find(u"Title of a"_qs, QAccessible::Dialog));
+        QCOMPARE(ScreenReader::description(find(u"打开脉络：Title of a"_qs, QAccessible::Button)),
+                 u"已看过"_qs);
+        QVERIFY(ScreenReader::description(find(u"Title of a"_qs, QAccessible::ListItem))
+                    .endsWith(u"，已看过"));
+    }
+
+    void theAdjustmentsCanBeReset()
+    {
+        model().reduceSimilar(u"a"_qs);
+        window().settle();
+        window().press(u"重置调整"_qs);
+        QVERIFY(model().workspace().hidden.isEmpty());
+        QVERIFY(!find(u"重置调整"_qs, QAccessible::Button));
+    }
+
+    void inOnePaneTheListFollowsTheCards()
+    {
+        window().resize({760, 560});
+        const auto* const column = find(u"今天先看 3 条"_qs, QAccessible::List);
+        const auto* const line = find(u"打开脉络：Title of a"_qs, QAccessible::Button);
+        QVERIFY(ScreenReader::isWithin(column, line));
+        focus(u"打开脉络：Title of a"_qs, QAccessible::Button);
+        window().pressKey(Qt::Key_Down);
+        QVERIFY(window().hasFocus(u"打开脉络：Title of b"_qs, QAccessible::Button));
+        window().pressKey(Qt::Key_Home);
+        QVERIFY(window().hasFocus(u"打开脉络：Title of a"_qs, QAccessible::Button));
+    }
+
+private:
+    WorkbenchWindow& window() { return m_visit->window(); }
+    InformationModel& model() { return m_visit->model(); }
+
+    QQuickItem* find(const QString& name, QAccessible::Role role)
+    {
+        return window().find(name, role);
+    }
+
+    void focus(const QString& name, QAccessible::Role role)
+    {
+        window().awaited(name, role)->forceActiveFocus(Qt::TabFocusReason);
+        window().settle();
+    }
+
+    void click(const QQuickItem* item)
+    {
+        const auto center = item->mapRectToScene(item->boundingRect()).center();
+        QTest::mouseClick(window().window(), Qt::LeftButton, {}, center.toPoint());
+        window().settle();
+    }
+
+    std::optional<ScreenTour::Visit> m_visit;
+};
+
+QTEST_MAIN(TodaySurfaceTest)
+#include "TodaySurfaceTest.moc"
