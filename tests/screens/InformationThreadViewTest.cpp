@@ -117,7 +117,7 @@ private Q_SLOTS:
         const auto cursor = note()->property("cursorRectangle").toRectF();
         const auto inScene = note()->mapRectToScene(cursor);
         const auto* const sheet = window().find(u"Title of a"_qs, QAccessible::Dialog);
-        QVERIFY(sheet->mapRectToScene(sheet->boundingRect()).contains(inScene));
+        QVERIFY(ScreenReader::place(sheet).contains(inScene));
     }
 
 private:

@@ -306,7 +306,7 @@ private Q_SLOTS:
         QVERIFY(bar);
         QTRY_COMPARE(bar->opacity(), 1.0);
         QVERIFY(!bar->hasActiveFocus());
-        const auto bottom = bar->mapRectToScene(bar->boundingRect()).bottom();
+        const auto bottom = ScreenReader::place(bar).bottom();
         QCOMPARE(bottom, m_window->window()->height() - 36 - 16.0);
 
         m_window->press(u"关闭回执"_qs, QAccessible::Button);

@@ -4,35 +4,18 @@
 
 namespace {
 
-QAccessible::Role roleOf(QQuickItem* item)
-{
-    auto* const accessible = QAccessible::queryAccessibleInterface(item);
-    return accessible ? accessible->role() : QAccessible::NoRole;
-}
-
-QString told(QQuickItem* item)
-{
-    auto* const accessible = QAccessible::queryAccessibleInterface(item);
-    return accessible ? accessible->text(QAccessible::Name) : u"nothing"_qs;
-}
-
 /// Of a row of these one is a stop of the Tab key; the arrow keys lead to the others.
 bool isOneOfARow(QQuickItem* item)
 {
-    const auto role = roleOf(item);
+    const auto role = ScreenReader::role(item);
     return role == QAccessible::PageTab || role == QAccessible::RadioButton ||
-           told(item).startsWith(u"打开脉络：");
+           ScreenReader::name(item).startsWith(u"打开脉络：");
 }
 
 bool isForUse(QQuickItem* item)
 {
     return item->inherits("Pressable") || item->inherits("QQuickTextInput") ||
            item->inherits("QQuickTextEdit");
-}
-
-QRectF rectInScene(const QQuickItem* item)
-{
-    return item->mapRectToScene({0, 0, item->width(), item->height()});
 }
 
 } // namespace
@@ -45,13 +28,7 @@ class KeyboardTest : public QObject
 private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u".?"_qs)); }
 
-    void theTabKeyReachesEverything_data()
-    {
-        QTest::addColumn<ScreenTour::Stop>("stop");
-        for (const auto& stop : ScreenTour::stops()) {
-            QTest::newRow(qPrintable(stop.name)) << stop;
-        }
-    }
+    void theTabKeyReachesEverything_data() { ScreenTour::addRows(); }
 
     void theTabKeyReachesEverything()
     {
@@ -97,7 +74,7 @@ private:
     void inspect(QQuickItem* focused)
     {
         if (focused->inherits("Pressable") && !hasRing(focused)) {
-            m_faults.append(u"no ring: "_qs + told(focused));
+            m_faults.append(u"no ring: "_qs + ScreenReader::name(focused));
         }
         const auto* pane = focused->parentItem();
         while (pane && !pane->inherits("QQuickFlickable")) {
@@ -106,10 +83,10 @@ private:
         if (!pane) {
             return;
         }
-        const auto seen = rectInScene(pane).intersected(rectInScene(focused));
+        const auto seen = ScreenReader::place(pane).intersected(ScreenReader::place(focused));
         const auto due = std::min(pane->height(), focused->height());
         if (seen.height() < due) {
-            m_faults.append(u"not in sight: "_qs + told(focused));
+            m_faults.append(u"not in sight: "_qs + ScreenReader::name(focused));
         }
     }
 
@@ -124,9 +101,9 @@ private:
     static QQuickItem* topmost(const WorkbenchWindow& window)
     {
         auto* const sheet = ScreenReader::findIf(window.content(), [](QQuickItem* item) {
-            return roleOf(item) == QAccessible::Dialog ||
-                   (roleOf(item) == QAccessible::AlertMessage &&
-                    told(item) == u"Corvanite 没有改动原数据");
+            return ScreenReader::role(item) == QAccessible::Dialog ||
+                   (ScreenReader::role(item) == QAccessible::AlertMessage &&
+                    ScreenReader::name(item) == u"Corvanite 没有改动原数据");
         });
         return sheet ? sheet : window.content();
     }
@@ -137,10 +114,10 @@ private:
         if (!item->isVisible()) {
             return;
         }
-        const auto role = roleOf(item);
+        const auto role = ScreenReader::role(item);
         if (isForUse(item) && item->isEnabled() && role != QAccessible::NoRole &&
             !isOneOfARow(item) && !reached.contains(item)) {
-            unreached.append(told(item));
+            unreached.append(ScreenReader::name(item));
         }
         const auto children = item->childItems();
         for (auto* const child : children) {

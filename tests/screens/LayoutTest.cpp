@@ -12,11 +12,6 @@ bool isOfClass(const QQuickItem* item, const char* name)
     return item->inherits(name);
 }
 
-QRectF rectInScene(const QQuickItem* item)
-{
-    return item->mapRectToScene({0, 0, item->width(), item->height()});
-}
-
 /// What the item scrolls with, or the sheet or window that it stands on: only what is on the same
 /// layer can stand in each other's way.
 const QQuickItem* layerOf(const QQuickItem* item)
@@ -44,14 +39,12 @@ bool isOneParagraph(QQuickItem* text, QQuickItem* other)
     if (parent == other || other->parentItem() == text) {
         return true;
     }
-    const auto* const accessible = QAccessible::queryAccessibleInterface(parent);
-    return parent == other->parentItem() && accessible &&
-           accessible->role() == QAccessible::StaticText;
+    return parent == other->parentItem() && ScreenReader::role(parent) == QAccessible::StaticText;
 }
 
 QString told(const QQuickItem* item)
 {
-    const auto rect = rectInScene(item);
+    const auto rect = ScreenReader::place(item);
     return u"“%1” at %2, %3, %4 × %5"_qs.arg(item->property("text").toString().left(40))
         .arg(rect.x())
         .arg(rect.y())
@@ -232,7 +225,7 @@ private:
 
     void inspectText(QQuickItem* text, QSize window, bool stretched)
     {
-        const auto rect = rectInScene(text);
+        const auto rect = ScreenReader::place(text);
         if (rect.left() < -tolerance || rect.right() > window.width() + tolerance) {
             m_faults.append(u"outside the window: "_qs + told(text));
         }
@@ -255,8 +248,8 @@ private:
         for (const auto& texts : std::as_const(m_texts)) {
             for (qsizetype i = 0; i < texts.size(); ++i) {
                 for (qsizetype k = 0; k < i; ++k) {
-                    const auto common =
-                        rectInScene(texts.at(i)).intersected(rectInScene(texts.at(k)));
+                    const auto common = ScreenReader::place(texts.at(i))
+                                            .intersected(ScreenReader::place(texts.at(k)));
                     if (common.width() > tolerance && common.height() > tolerance &&
                         !isOneParagraph(texts.at(i), texts.at(k))) {
                         m_faults.append(told(texts.at(i)) + u" overlaps "_qs + told(texts.at(k)));

@@ -157,7 +157,7 @@ private:
 
     void click(const QQuickItem* item)
     {
-        const auto center = item->mapRectToScene(item->boundingRect()).center();
+        const auto center = ScreenReader::place(item).center();
         QTest::mouseClick(window().window(), Qt::LeftButton, {}, center.toPoint());
         window().settle();
     }

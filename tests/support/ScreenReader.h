@@ -7,10 +7,16 @@
 /// Meets a window's items as a screen reader does: by name and role, and only those that show.
 namespace ScreenReader {
 
-inline bool matches(QQuickItem* item, const QString& name, QAccessible::Role role)
+inline QAccessible::Role role(QQuickItem* item)
 {
-    auto* const accessible = QAccessible::queryAccessibleInterface(item);
-    return accessible && accessible->role() == role && accessible->text(QAccessible::Name) == name;
+    const auto* const accessible = QAccessible::queryAccessibleInterface(item);
+    return accessible ? accessible->role() : QAccessible::NoRole;
+}
+
+inline QString name(QQuickItem* item)
+{
+    const auto* const accessible = QAccessible::queryAccessibleInterface(item);
+    return accessible ? accessible->text(QAccessible::Name) : QString();
 }
 
 /// The first visible item at or below `root` for which the condition holds; null when there is
@@ -36,7 +42,9 @@ QQuickItem* findIf(QQuickItem* root, const Condition& condition)
 /// The first visible item at or below `root` of that name and role; null when there is none.
 inline QQuickItem* find(QQuickItem* root, const QString& name, QAccessible::Role role)
 {
-    return findIf(root, [&](QQuickItem* item) { return matches(item, name, role); });
+    return findIf(root, [&](QQuickItem* item) {
+        return ScreenReader::role(item) == role && ScreenReader::name(item) == name;
+    });
 }
 
 /// The same, once it is there.
@@ -54,6 +62,12 @@ inline bool isWithin(const QQuickItem* root, const QQuickItem* item)
         item = item->parentItem();
     }
     return root && item == root;
+}
+
+/// Where the item is in the window.
+inline QRectF place(const QQuickItem* item)
+{
+    return item->mapRectToScene({0, 0, item->width(), item->height()});
 }
 
 inline QString description(QQuickItem* item)

@@ -276,4 +276,13 @@ inline QList<Stop> stops()
     };
 }
 
+/// A test's data: a row for every stop.
+inline void addRows()
+{
+    QTest::addColumn<Stop>("stop");
+    for (const auto& stop : stops()) {
+        QTest::newRow(qPrintable(stop.name)) << stop;
+    }
+}
+
 } // namespace ScreenTour
