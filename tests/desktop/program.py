@@ -99,6 +99,9 @@ class Program:
         """Presses the keys one after the other, written as xdotool names them ("ctrl+1")."""
         self._xdotool("key", "--clearmodifiers", *keys)
 
+    def type(self, text: str) -> None:
+        self._xdotool("type", text)
+
     def click(self, element: Element) -> None:
         x, y = element.extents().center
         self._xdotool("mousemove", str(x), str(y), "click", "1")
