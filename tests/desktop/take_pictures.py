@@ -1,21 +1,31 @@
 #!/usr/bin/python3
-"""The picture tour: takes a picture of every screen and state of the program, light and dark.
+"""The picture tour: takes a picture of every screen and state of the program as the preset "ci" has
+built it, light and dark.
 
 Without --size each screen has its own, and the pictures are made small, as docs/pictures keeps them.
 """
 
 import argparse
+import json
 import os
-import sys
 from collections.abc import Callable
 from dataclasses import dataclass
 from pathlib import Path
 
 from commands import answer_of
+from loopback_site import Site
 from program import Program
 from world import World
 
 REPOSITORY = Path(__file__).resolve().parents[2]
+PROGRAMS = REPOSITORY / "build/ci/bin"
+PACK = REPOSITORY / "CorvaniteInformationCore/seed/information-pack.json"
+NEWER_BUILD = {
+    "schemaVersion": "corvanite-information-app-version-v1",
+    "version": "1.3.0",
+    "downloadUrl": "https://127.0.0.1/download",
+    "sha256": "0" * 64,
+}
 
 SCHEMES = ["light", "dark"]
 ROOMY = (1680, 1050)
@@ -130,6 +140,12 @@ class Tour:
         folder.unlink()
         away.rename(folder)
 
+    def update_and_sync(self) -> None:
+        """Needs a program that reads a site which offers a newer build."""
+        self._program.wait_for("获取更新")
+        self._program.press_keys("F5")
+        self._program.wait_for_beginning("已是最新")
+
     def end(self) -> None:
         self._program.press_keys("End")
 
@@ -187,26 +203,50 @@ SCREENS = [
 ]
 
 
-def take_pictures(
-    program_file: Path, folder: Path, schemes: list[str], sizes: list[tuple[int, int]]
-) -> None:
+SCREENS_WITH_SITE = [Screen(Tour.update_and_sync)]
+
+
+@dataclass(frozen=True)
+class Look:
+    """How the pictures of one round are to be."""
+
+    folder: Path
+    scheme: str
+    size: tuple[int, int] | None
+    """Nothing for each screen's own."""
+
+    def picture(self, screen: Screen) -> Path:
+        width = f"-{self.size[0]}" if self.size else ""
+        return self.folder / f"{screen.name}{width}-{self.scheme}.png"
+
+
+def take_pictures(folder: Path, schemes: list[str], sizes: list[tuple[int, int] | None]) -> None:
+    documents = {
+        "/information-pack.json": PACK.read_bytes(),
+        "/information-app-version.json": json.dumps(NEWER_BUILD).encode(),
+    }
     for scheme in schemes:
-        for size in sizes or [None]:
-            with World(scheme) as world:
-                program = world.start(program_file)
-                tour = Tour(program, world)
-                for screen in SCREENS:
-                    program.resize(*ROOMY)
-                    program.press_keys("Escape", "Escape")
-                    screen.open(tour)
-                    program.resize(*(size or screen.size))
-                    screen.then(tour)
-                    width = f"-{size[0]}" if size else ""
-                    picture = folder / f"{screen.name}{width}-{scheme}.png"
-                    program.save_picture(picture)
-                    if not size:
-                        make_small(picture)
-                program.close()
+        for size in sizes:
+            look = Look(folder, scheme, size)
+            with World(scheme) as world, Site(documents) as site:
+                show(world, world.start(PROGRAMS / "corvanite-information"), SCREENS, look)
+                loopback = world.start(PROGRAMS / "loopback_program", site=site.origin)
+                show(world, loopback, SCREENS_WITH_SITE, look)
+
+
+def show(world: World, program: Program, screens: list[Screen], look: Look) -> None:
+    tour = Tour(program, world)
+    for screen in screens:
+        program.resize(*ROOMY)
+        program.press_keys("Escape", "Escape")
+        screen.open(tour)
+        program.resize(*(look.size or screen.size))
+        screen.then(tour)
+        picture = look.picture(screen)
+        program.save_picture(picture)
+        if not look.size:
+            make_small(picture)
+    program.close()
 
 
 def make_small(picture: Path) -> None:
@@ -221,27 +261,15 @@ def parse_size(text: str) -> tuple[int, int]:
     return int(width), int(height)
 
 
-def main() -> int:
+def main() -> None:
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("folder", type=Path, help="where the pictures go")
     parser.add_argument("--size", type=parse_size, action="append", default=[], metavar="WxH")
     parser.add_argument("--scheme", choices=SCHEMES, action="append")
-    parser.add_argument(
-        "--program",
-        type=Path,
-        default=REPOSITORY / "build/ci/bin/corvanite-information",
-        help="default: %(default)s",
-    )
     arguments = parser.parse_args()
     arguments.folder.mkdir(parents=True, exist_ok=True)
-    take_pictures(
-        arguments.program.resolve(),
-        arguments.folder,
-        arguments.scheme or SCHEMES,
-        arguments.size,
-    )
-    return 0
+    take_pictures(arguments.folder, arguments.scheme or SCHEMES, arguments.size or [None])
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()
