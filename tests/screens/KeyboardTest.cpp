@@ -47,6 +47,43 @@ private Q_SLOTS:
         QCOMPARE(unreached.join(u'\n'), QString());
     }
 
+    void theOrderOfTheTabKey()
+    {
+        const ScreenTour::Stop stop{
+            .name = u"a receipt"_qs,
+            .prepare =
+                [](SampleModel& sample) {
+                    sample.site->answers.insert(
+                        ProductSite::appVersionPath,
+                        SiteReply{.body = SiteDocuments::appVersion(u"1.2.3"_qs), .status = 200});
+                },
+            .act = [](InformationModel& model) { model.toggleKeep(u"a"_qs); },
+            .open =
+                [](const WorkbenchWindow& window) {
+                    window.awaited(u"获取更新"_qs, QAccessible::Button);
+                }};
+        ScreenTour::Visit visit(stop, {1120, 780});
+        visit.window()
+            .find(u"获取更新"_qs, QAccessible::Button)
+            ->forceActiveFocus(Qt::BacktabFocusReason);
+        QStringList names{u"获取更新"_qs};
+        const auto stops = walk(visit.window(), Qt::Key_Tab);
+        for (auto* const focused : stops) {
+            names.append(ScreenReader::name(focused));
+        }
+
+        qsizetype last = -1;
+        for (const auto& name :
+             {u"获取更新"_qs, u"关闭更新提示"_qs, u"今天"_qs, u"同步站点"_qs, u"添加信息"_qs,
+              u"全部 6"_qs, u"Title of a"_qs, u"从工作台移除并停止更新：Title of a"_qs,
+              u"Title of c"_qs, u"打开脉络：Title of a"_qs, u"往期精选"_qs, u"RSS"_qs, u"撤销"_qs,
+              u"关闭回执"_qs}) {
+            const auto position = names.indexOf(name);
+            QVERIFY2(position > last, qPrintable(name));
+            last = position;
+        }
+    }
+
 private:
     /// What the key leads to from where the focus is, until it has come round.
     QList<QQuickItem*> walk(const WorkbenchWindow& window, Qt::Key key)
