@@ -14,7 +14,7 @@ from accessibility import AccessibilityBus
 from commands import answer_of, succeeds
 from own_process import OwnProcess
 from polling import PATIENCE, wait_until
-from program import Program
+from program import WINDOW_TITLE, Program
 
 HERE = Path(__file__).resolve().parent
 
@@ -87,6 +87,11 @@ class World:
     def programs(self) -> list[Program]:
         """Every program started here, in order."""
         return list(self._programs)
+
+    def windows(self) -> list[str]:
+        """The numbers of the program's windows that are mapped, whosever they are."""
+        search = ["xdotool", "search", "--onlyvisible", "--name", f"^{WINDOW_TITLE}$"]
+        return answer_of(search, self.environment).decode().split()
 
     def copy(self, text: str) -> None:
         """Puts the text on the clipboard."""
