@@ -1,5 +1,6 @@
 #include "OpenableAddress.h"
 
+#include "Ipv6Literal.h"
 #include "UriAuthority.h"
 #include "UriComponents.h"
 
@@ -28,6 +29,12 @@ bool isWebScheme(const QString& scheme)
            scheme.compare(QLatin1StringView("http"), Qt::CaseInsensitive) == 0;
 }
 
+// Of anything else in brackets than an address Qt may make another host when it escapes it.
+bool isHost(const QString& text)
+{
+    return text.startsWith(u'[') ? ipv6LiteralAddress(text).has_value() : !text.isEmpty();
+}
+
 } // namespace
 
 std::optional<QUrl> OpenableAddress::url(const QString& text)
@@ -36,7 +43,7 @@ std::optional<QUrl> OpenableAddress::url(const QString& text)
     const auto authority =
         components.authority ? UriAuthority::of(*components.authority) : std::nullopt;
     if (!components.scheme || !isWebScheme(*components.scheme) || !authority ||
-        authority->host.isEmpty() || authority->userInfo || hasDeceptiveCharacter(text)) {
+        !isHost(authority->host) || authority->userInfo || hasDeceptiveCharacter(text)) {
         return std::nullopt;
     }
     const QUrl url(text);

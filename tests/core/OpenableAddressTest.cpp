@@ -22,6 +22,7 @@ private Q_SLOTS:
         row(u"https://h.example/中文 x"_qs, "https://h.example/%E4%B8%AD%E6%96%87%20x");
         row(u"https://例子.测试/"_qs, "https://xn--fsqu00a.xn--0zwm56d/");
         row(u"https://[2606:4700::1111]/"_qs, "https://[2606:4700::1111]/");
+        row(u"https://[fe80::1%25eth0]/"_qs, "https://[fe80::1%25eth0]/");
         row(u"https://h.example/@user"_qs, "https://h.example/@user");
         row(u"https://h.example/?a@b#c@d"_qs, "https://h.example/?a@b#c@d");
         row(u"http://127.0.0.1:8080/"_qs, "http://127.0.0.1:8080/");
@@ -68,6 +69,8 @@ private Q_SLOTS:
                  u"https://h.example\\@evil.example/"_qs,
                  u"https://a@b@h.example/"_qs,
                  u"https://h.example:x/"_qs,
+                 u"https://[2606:4700::11%25例]/"_qs,
+                 u"https://[v1.x]/"_qs,
                  u"https://h.example:99999/"_qs,
                  u"https://[::1/"_qs,
                  u"https://[g::1]/"_qs,
