@@ -14,12 +14,19 @@ class Site:
     def __init__(self, documents: dict[str, bytes]):
         self.requests: list[tuple[str, dict[str, str]]] = []
         """Path and headers of every request, in order."""
+        self.request_lines: list[str] = []
+        """The first line of whatever was sent, request or not."""
         self.may_answer = threading.Event()
         """While it is not set, every request waits."""
         self.may_answer.set()
         site = self
 
         class Handler(BaseHTTPRequestHandler):
+            def parse_request(self):
+                parsed = super().parse_request()
+                site.request_lines.append(self.requestline)
+                return parsed
+
             def do_GET(self):
                 site.requests.append((self.path, dict(self.headers)))
                 site.may_answer.wait(PATIENCE)

@@ -55,7 +55,8 @@ class World:
         self.folder = Path(tempfile.mkdtemp(prefix="desktop-"))
         self.home = self.folder / "home"
         self.data_home = self.home / ".local/share"
-        self._opened = self.folder / "opened"
+        self.opened_record = self.folder / "opened"
+        """The file in which the browser notes what it is to open."""
         try:
             self._lay_out_folders()
             self._start_screen()
@@ -107,7 +108,7 @@ class World:
 
     def opened_addresses(self) -> list[str]:
         """What was handed to the browser, in order."""
-        return self._opened.read_text().splitlines() if self._opened.exists() else []
+        return self.opened_record.read_text().splitlines() if self.opened_record.exists() else []
 
     def _lay_out_folders(self) -> None:
         commands = self.folder / "commands"
@@ -116,7 +117,7 @@ class World:
             folder.mkdir(parents=True)
         runtime.chmod(0o700)
         browser = commands / "xdg-open"
-        browser.write_text(BROWSER.format(opened=self._opened))
+        browser.write_text(BROWSER.format(opened=self.opened_record))
         browser.chmod(browser.stat().st_mode | stat.S_IXUSR)
         self.environment = {
             "HOME": str(self.home),
