@@ -179,6 +179,27 @@ private:
     QByteArray m_name;
 };
 
+// Gives the names of the symbolic links in the folder.
+QList<QByteArray> removeTemporaryFiles(const QByteArray& folder)
+{
+    QList<QByteArray> links;
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.constData()), ::closedir);
+    if (!entries) {
+        return links;
+    }
+    const int descriptor = ::dirfd(entries.get());
+    while (const dirent* entry = ::readdir(entries.get())) {
+        struct stat status = {};
+        if (isTemporaryName(entry->d_name)) {
+            ::unlinkat(descriptor, entry->d_name, 0);
+        } else if (::fstatat(descriptor, entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+                   S_ISLNK(status.st_mode)) {
+            links.append(entry->d_name);
+        }
+    }
+    return links;
+}
+
 } // namespace
 
 std::expected<void, FileError> AtomicFile::replace(const QString& path, const QByteArray& bytes)
@@ -207,14 +228,10 @@ std::expected<void, FileError> AtomicFile::replace(const QString& path, const QB
 
 void AtomicFile::removeLeftovers(const QString& folder)
 {
-    const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(QFile::encodeName(folder)),
-                                                      ::closedir);
-    if (!entries) {
-        return;
-    }
-    while (const dirent* entry = ::readdir(entries.get())) {
-        if (isTemporaryName(entry->d_name)) {
-            ::unlinkat(::dirfd(entries.get()), entry->d_name, 0);
+    const QByteArray path = QFile::encodeName(folder);
+    for (const QByteArray& link : removeTemporaryFiles(path)) {
+        if (const auto location = replacedLocation(path + '/' + link)) {
+            removeTemporaryFiles(location->folder);
         }
     }
 }

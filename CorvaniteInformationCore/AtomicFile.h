@@ -16,8 +16,8 @@ namespace AtomicFile {
 /// nothing of the new one remains. A symbolic link stays, its target is replaced or made.
 std::expected<void, FileError> replace(const QString& path, const QByteArray& bytes);
 
-/// Removes the temporary files that a killed `replace` left in the folder. Nobody may be replacing
-/// a file there meanwhile.
+/// Removes the temporary files that a killed `replace` of a file in the folder left, there or where
+/// a symbolic link in it leads. A `replace` that runs meanwhile may fail for it, and loses nothing.
 void removeLeftovers(const QString& folder);
 
 } // namespace AtomicFile

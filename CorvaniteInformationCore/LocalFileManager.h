@@ -28,8 +28,8 @@ public:
     std::expected<void, FileError> replaceFile(const QString& path,
                                                const QByteArray& bytes) const override;
 
-    /// Removes the temporary files that a killed `replaceFile` left in the folder. Only the one
-    /// process that holds the data directory may call it.
+    /// Removes the temporary files that a killed `replaceFile` left for the folder's files, also
+    /// where a link leads elsewhere. Only the one process that holds the data directory may call it.
     void removeLeftovers(const QString& directory) const;
 
 private:

@@ -437,6 +437,69 @@ private Q_SLOTS:
         QCOMPARE(namesIn(folder.path()), namesBefore);
     }
 
+    void leftoversAreRemovedWhereALinkLeads_data()
+    {
+        QTest::addColumn<QString>("target");
+
+        QTest::newRow("absolute") << u"%1/there/file"_qs;
+        QTest::newRow("relative") << u"../there/file"_qs;
+        QTest::newRow("through another link") << u"../chain"_qs;
+        QTest::newRow("to a missing file") << u"../there/missing"_qs;
+    }
+
+    void leftoversAreRemovedWhereALinkLeads()
+    {
+        QFETCH(QString, target);
+        const QTemporaryDir root;
+        QVERIFY(QDir(root.path()).mkpath(u"here"_qs) && QDir(root.path()).mkpath(u"there"_qs));
+        writeFile(root.filePath(u"there/file"_qs), oldBytes);
+        writeFile(root.filePath(u"there/.corvanite-0123456789abcdef.tmp"_qs), newBytes);
+        writeFile(root.filePath(u"there/file.tmp"_qs), newBytes);
+        link(u"there/file"_qs, root.filePath(u"chain"_qs));
+        link(target.contains(u'%') ? target.arg(root.path()) : target,
+             root.filePath(u"here/link"_qs));
+
+        AtomicFile::removeLeftovers(root.filePath(u"here"_qs));
+
+        QCOMPARE(namesIn(root.filePath(u"here"_qs)), QStringList{u"link"_qs});
+        QCOMPARE(namesIn(root.filePath(u"there"_qs)), (QStringList{u"file"_qs, u"file.tmp"_qs}));
+        QCOMPARE(contentOf(root.filePath(u"there/file"_qs)), oldBytes);
+    }
+
+    void linksThatLeadToNoFileHaveNoLeftovers()
+    {
+        const QTemporaryDir root;
+        QVERIFY(QDir(root.path()).mkpath(u"here"_qs) && QDir(root.path()).mkpath(u"there"_qs));
+        writeFile(root.filePath(u"there/.corvanite-0123456789abcdef.tmp"_qs), newBytes);
+        link(u"../there"_qs, root.filePath(u"here/folder"_qs));
+        link(u"loop"_qs, root.filePath(u"here/loop"_qs));
+        link(u"../nowhere/file"_qs, root.filePath(u"here/lost"_qs));
+
+        AtomicFile::removeLeftovers(root.filePath(u"here"_qs));
+
+        QCOMPARE(namesIn(root.filePath(u"here"_qs)),
+                 (QStringList{u"folder"_qs, u"loop"_qs, u"lost"_qs}));
+        QCOMPARE(namesIn(root.filePath(u"there"_qs)),
+                 QStringList{u".corvanite-0123456789abcdef.tmp"_qs});
+    }
+
+    void aReplacementThatLosesItsTemporaryFileKeepsTheOldFile()
+    {
+        const Folder folder;
+        const FileCallHook hook{.before = [&folder](int, const char* name) {
+            if (QByteArrayView(name) == "renameat") {
+                AtomicFile::removeLeftovers(folder.path());
+            }
+            return std::optional<int>();
+        }};
+
+        hook.during([&] { QVERIFY(!AtomicFile::replace(folder.file(), newBytes)); });
+        QVERIFY(folder.holdsOnly(oldBytes));
+
+        QVERIFY(AtomicFile::replace(folder.file(), newBytes));
+        QVERIFY(folder.holdsOnly(newBytes));
+    }
+
     void aMissingFolderHasNoLeftovers()
     {
         const QTemporaryDir folder;

@@ -59,6 +59,18 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(leftover));
     }
 
+    void theFirstRemovesWhatAKilledSaveLeftWhereTheWorkspaceIsLinkedTo()
+    {
+        QVERIFY(QDir().mkpath(m_directory) && QDir(m_home->path()).mkdir(u"synced"_qs));
+        QVERIFY(QFile::link(m_home->filePath(u"synced/kept.json"_qs),
+                            m_directory + u"/workspace-v1.json"_qs));
+        const auto leftover = m_home->filePath(u"synced/.corvanite-0123456789abcdef.tmp"_qs);
+        QFile file(leftover);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const ProgramInstance first(m_directory, m_fileManager, m_environment);
+        QVERIFY(!QFile::exists(leftover));
+    }
+
     void withoutADirectoryNothingIsStored()
     {
         QCOMPARE(ProgramInstance(std::nullopt, m_fileManager, m_environment).standing(),
