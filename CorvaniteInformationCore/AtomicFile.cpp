@@ -226,6 +226,18 @@ std::expected<void, FileError> AtomicFile::replace(const QString& path, const QB
     return {};
 }
 
+bool AtomicFile::leadsIntoMissingFolder(const QString& path)
+{
+    const QByteArray encoded = QFile::encodeName(path);
+    struct stat status = {};
+    if (::lstat(encoded.constData(), &status) != 0 || !S_ISLNK(status.st_mode)) {
+        return false;
+    }
+    const auto location = replacedLocation(encoded);
+    return location ? ::stat(location->folder.constData(), &status) != 0
+                    : location.error().reason == FileError::Reason::FolderMissing;
+}
+
 void AtomicFile::removeLeftovers(const QString& folder)
 {
     const QByteArray path = QFile::encodeName(folder);

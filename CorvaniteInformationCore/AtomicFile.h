@@ -16,6 +16,10 @@ namespace AtomicFile {
 /// nothing of the new one remains. A symbolic link stays, its target is replaced or made.
 std::expected<void, FileError> replace(const QString& path, const QByteArray& bytes);
 
+/// Whether the path is a symbolic link whose target, be it only made by `replace`, has no folder to
+/// lie in.
+bool leadsIntoMissingFolder(const QString& path);
+
 /// Removes the temporary files that a killed `replace` of a file in the folder left, there or where
 /// a symbolic link in it leads. A `replace` that runs meanwhile may fail for it, and loses nothing.
 void removeLeftovers(const QString& folder);

@@ -17,7 +17,8 @@ public:
     /// The platform's per-user data directory, absolute; nothing when there is none.
     virtual std::optional<QString> applicationSupportDirectory() const = 0;
 
-    /// The whole file. Nothing when no file exists there, a dangling link included.
+    /// The whole file. Nothing when no file exists there, a dangling link included; but a link into
+    /// a missing folder is an error, for the file may come back with it.
     virtual std::expected<std::optional<QByteArray>, FileError>
     readFile(const QString& path) const = 0;
 

@@ -125,10 +125,13 @@ LocalFileManager::readFile(const QString& path) const
     const FileDescriptor file(
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file.isOpen()) {
-        if (errno == ENOENT || errno == ENOTDIR) {
-            return std::nullopt;
+        if (errno != ENOENT && errno != ENOTDIR) {
+            return readFailure();
         }
-        return readFailure();
+        if (AtomicFile::leadsIntoMissingFolder(path)) {
+            return std::unexpected(FileError{FileError::Reason::FolderMissing});
+        }
+        return std::nullopt;
     }
     struct stat status = {};
     if (::fstat(file.get(), &status) != 0) {

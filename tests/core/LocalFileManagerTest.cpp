@@ -154,6 +154,33 @@ private Q_SLOTS:
         QVERIFY(!*read);
     }
 
+    void aLinkIntoAMissingFolderIsAnError_data()
+    {
+        QTest::addColumn<QString>("target");
+
+        QTest::newRow("missing") << u"unplugged/file"_qs;
+        QTest::newRow("through another link") << u"chain"_qs;
+        QTest::newRow("in a file") << u"file/file"_qs;
+    }
+
+    // A start that took it for no file wrote over the real one when the disk was back.
+    void aLinkIntoAMissingFolderIsAnError()
+    {
+        QFETCH(QString, target);
+        const QTemporaryDir folder;
+        writeFile(folder.filePath(u"file"_qs), "text");
+        QCOMPARE(::symlink("unplugged/file",
+                           QFile::encodeName(folder.filePath(u"chain"_qs)).constData()),
+                 0);
+        QCOMPARE(::symlink(QFile::encodeName(target).constData(),
+                           QFile::encodeName(folder.filePath(u"link"_qs)).constData()),
+                 0);
+
+        const auto read = fileManager.readFile(folder.filePath(u"link"_qs));
+        QVERIFY(!read);
+        QCOMPARE(read.error().reason, Reason::FolderMissing);
+    }
+
     void readsOnlyOrdinaryFiles_data()
     {
         QTest::addColumn<QString>("name");
