@@ -1,7 +1,6 @@
 #pragma once
 
 #include "FileTree.h"
-#include "SavingProcess.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
