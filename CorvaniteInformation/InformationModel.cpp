@@ -1,6 +1,7 @@
 #include "InformationModel.h"
 
 #include "ArchiveDigest.h"
+#include "CodePointOrder.h"
 #include "InformationIntake.h"
 #include "InformationProjection.h"
 #include "InformationSignalIndex.h"
@@ -157,11 +158,15 @@ bool InformationModel::isKept(const InformationSignal& signal) const
 std::optional<InformationWorkspace::SavedMap::value_type>
 InformationModel::savedEntry(const InformationSignal& signal) const
 {
-    const auto ids = threadIds(signal);
     auto latest = m_workspace.saved.end();
-    for (auto entry = m_workspace.saved.begin(); entry != m_workspace.saved.end(); ++entry) {
-        if (ids.contains(entry->first) &&
-            (latest == m_workspace.saved.end() || entry->second.savedAt > latest->second.savedAt)) {
+    for (const QString& id : threadIds(signal)) {
+        const auto entry = m_workspace.saved.find(id);
+        if (entry == m_workspace.saved.end()) {
+            continue;
+        }
+        if (latest == m_workspace.saved.end() || entry->second.savedAt > latest->second.savedAt ||
+            (entry->second.savedAt == latest->second.savedAt &&
+             codePointLess(entry->first, latest->first))) {
             latest = entry;
         }
     }

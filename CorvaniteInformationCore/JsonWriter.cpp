@@ -1,15 +1,34 @@
 #include "JsonWriter.h"
 
 #include <QString>
-#include <QStringEncoder>
+
+#include <algorithm>
 
 namespace {
 
 constexpr qsizetype indentation = 2;
 
-QByteArray controlEscape(char byte)
+bool isEscaped(QChar character)
 {
-    return "\\u" + QByteArray::number(byte, 16).rightJustified(4, '0');
+    return character == u'"' || character == u'\\' || character < u' ';
+}
+
+QByteArray escapeOf(char character)
+{
+    switch (character) {
+    case '"':
+        return "\\\"";
+    case '\\':
+        return "\\\\";
+    case '\n':
+        return "\\n";
+    case '\r':
+        return "\\r";
+    case '\t':
+        return "\\t";
+    default:
+        return "\\u" + QByteArray::number(character, 16).rightJustified(4, '0');
+    }
 }
 
 } // namespace
@@ -44,7 +63,7 @@ void JsonWriter::begin(char bracket)
 void JsonWriter::end(char bracket)
 {
     if (m_filled.takeLast()) {
-        m_document += '\n' + QByteArray(m_filled.size() * indentation, ' ');
+        breakLine();
     }
     m_document += bracket;
 }
@@ -67,39 +86,35 @@ void JsonWriter::startLine()
         m_document += ',';
     }
     m_filled.last() = true;
-    m_document += '\n' + QByteArray(m_filled.size() * indentation, ' ');
+    breakLine();
+}
+
+void JsonWriter::breakLine()
+{
+    m_document += '\n';
+    m_document.append(m_filled.size() * indentation, ' ');
 }
 
 void JsonWriter::quote(QStringView text)
 {
-    // Unlike QStringView::toUtf8, which writes "?" for what is no character.
-    QStringEncoder toUtf8(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
-    const QByteArray utf8 = toUtf8(text);
     m_document += '"';
-    for (const char byte : utf8) {
-        switch (byte) {
-        case '"':
-            m_document += "\\\"";
-            break;
-        case '\\':
-            m_document += "\\\\";
-            break;
-        case '\n':
-            m_document += "\\n";
-            break;
-        case '\r':
-            m_document += "\\r";
-            break;
-        case '\t':
-            m_document += "\\t";
-            break;
-        default:
-            if (static_cast<unsigned char>(byte) < ' ') {
-                m_document += controlEscape(byte);
-            } else {
-                m_document += byte;
-            }
+    while (!text.isEmpty()) {
+        const auto escaped = std::ranges::find_if(text, isEscaped);
+        const qsizetype plainLength = escaped - text.begin();
+        appendUtf8(text.first(plainLength));
+        text = text.sliced(plainLength);
+        if (!text.isEmpty()) {
+            m_document += escapeOf(text.front().toLatin1());
+            text = text.sliced(1);
         }
     }
     m_document += '"';
+}
+
+void JsonWriter::appendUtf8(QStringView text)
+{
+    const qsizetype length = m_document.size();
+    m_document.resize(length + m_toUtf8.requiredSpace(text.size()));
+    const char* const end = m_toUtf8.appendToBuffer(m_document.data() + length, text);
+    m_document.truncate(end - m_document.constData());
 }

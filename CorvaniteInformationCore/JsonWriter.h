@@ -3,6 +3,7 @@
 #include <QAnyStringView>
 #include <QByteArray>
 #include <QList>
+#include <QStringEncoder>
 #include <QStringView>
 
 /// Writes one JSON document: UTF-8, an indented line for each member and element, slashes not
@@ -29,9 +30,13 @@ private:
     void end(char bracket);
     void startValue();
     void startLine();
+    void breakLine();
     void quote(QStringView text);
+    void appendUtf8(QStringView text);
 
     QByteArray m_document;
+    /// Unlike QStringView::toUtf8, which writes "?" for what is no character.
+    QStringEncoder m_toUtf8{QStringEncoder::Utf8, QStringEncoder::Flag::Stateless};
     /// For each open object or array whether it has something in it.
     QList<bool> m_filled;
     bool m_isAfterKey = false;
