@@ -2,8 +2,6 @@
 
 #include <QSet>
 
-#include <utility>
-
 namespace {
 
 template <typename Value>
@@ -11,15 +9,11 @@ void keepFirstOccurrences(QList<Value>& list)
 {
     QSet<Value> met;
     met.reserve(list.size());
-    QList<Value> kept;
-    kept.reserve(list.size());
-    for (const Value& value : std::as_const(list)) {
-        if (!met.contains(value)) {
-            met.insert(value);
-            kept.append(value);
-        }
-    }
-    list = kept;
+    list.removeIf([&met](const Value& value) {
+        const auto countBefore = met.size();
+        met.insert(value);
+        return met.size() == countBefore;
+    });
 }
 
 void keepLatest(QList<QString>& seenTargets)
