@@ -29,7 +29,7 @@ public:
                                                const QByteArray& bytes) const override;
 
     /// Removes the temporary files that a killed `replaceFile` left for the folder's files, also
-    /// where a link leads elsewhere. Only the one process that holds the data directory may call it.
+    /// where a link leads elsewhere. For the one process that holds the data directory.
     void removeLeftovers(const QString& directory) const;
 
 private:
