@@ -49,6 +49,19 @@ QString sourceText(int number)
     return u"想跟踪的第 %1 句话"_qs.arg(number);
 }
 
+// Qt 6.4 compares two empty lists of plain values by memcmp and null, which the sanitizers report.
+bool isSame(const InformationWorkspace& left, const InformationWorkspace& right)
+{
+    if (!left.reducedLanes.isEmpty() || !right.reducedLanes.isEmpty()) {
+        return left == right;
+    }
+    auto leftWithoutLanes = left;
+    auto rightWithoutLanes = right;
+    leftWithoutLanes.reducedLanes = {};
+    rightWithoutLanes.reducedLanes = {};
+    return leftWithoutLanes == rightWithoutLanes;
+}
+
 } // namespace
 
 // A reader who does anything in any order for a long time, on a disk that fails now and then.
@@ -360,8 +373,8 @@ void RandomWalkTest::transact(const Expectation& expectation, const std::functio
     require(file() == InformationWorkspaceCoding::encode(m_workspace),
             "the file does not hold what was done");
     if (m_saves % savesPerReading == 0) {
-        require(InformationWorkspaceCoding::decode(file()) == m_workspace,
-                "the file does not read as what was done");
+        const auto stored = InformationWorkspaceCoding::decode(file());
+        require(stored && isSame(*stored, m_workspace), "the file does not read as what was done");
     }
 }
 
@@ -555,7 +568,7 @@ void RandomWalkTest::refreshPackFromSite()
 
 void RandomWalkTest::verifyState()
 {
-    require(m_model->workspace() == m_workspace, "memory is not what was done");
+    require(isSame(m_model->workspace(), m_workspace), "memory is not what was done");
     require(m_model->errorText() == m_error, "the error told is not what happened");
     require(m_model->canUndo() == m_undo.has_value(), "undo is offered where there is none");
 }
