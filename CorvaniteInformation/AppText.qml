@@ -14,7 +14,9 @@ Text {
     topPadding: text.textStyle.spaceAbove
     bottomPadding: text.textStyle.spaceBelow
     textFormat: Text.PlainText
-    wrapMode: Text.Wrap
+    // A line of a word without end takes as long to lay out as the rest of the word; not so where any
+    // character may begin a line.
+    wrapMode: text.text.length > 5000 ? Text.WrapAnywhere : Text.Wrap
 
     Accessible.role: Accessible.StaticText
     Accessible.name: text.text

@@ -9,7 +9,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-/// One day in the archive's index.
+/// A slice of one day in the archive's index.
 struct ArchiveDayRow
 {
     Q_GADGET
@@ -22,12 +22,15 @@ struct ArchiveDayRow
     Q_PROPERTY(QList<ArchiveEntryRow> entries MEMBER entries CONSTANT FINAL)
     Q_PROPERTY(QString closing MEMBER closing CONSTANT FINAL)
     Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    Q_PROPERTY(bool opensDay MEMBER opensDay CONSTANT FINAL)
+    Q_PROPERTY(bool closesDay MEMBER closesDay CONSTANT FINAL)
 
 public:
     /// @param focusSignals the day's featured signals as far as they are still there
     /// @param packDay the day of the pack that is shown
-    static ArchiveDayRow from(const SelectionDay& day, const QList<InformationSignal>& focusSignals,
-                              const QString& packDay);
+    static QList<ArchiveDayRow> slicesOf(const SelectionDay& day,
+                                         const QList<InformationSignal>& focusSignals,
+                                         const QString& packDay);
 
     /// As in the selection history.
     QString date;
@@ -38,6 +41,10 @@ public:
     QString closing;
     /// For a screen reader.
     QString name;
+    /// The first slice of its day.
+    bool opensDay = false;
+    /// The last slice of its day.
+    bool closesDay = false;
 
     const QString& key() const { return date; }
 

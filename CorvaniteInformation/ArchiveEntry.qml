@@ -10,8 +10,10 @@ Item {
     implicitHeight: line.height
 
     AppText {
+        id: number
+
         y: 2
-        width: 32
+        width: Math.max(32, implicitWidth + 8)
         text: entry.row.number
         textStyle: InformationTheme.meta
         color: InformationTheme.ink3
@@ -21,7 +23,7 @@ Item {
     TrailedText {
         id: line
 
-        x: 32
+        x: number.width
         width: parent.width - x
         text: entry.row.title
         trail: entry.row.lane

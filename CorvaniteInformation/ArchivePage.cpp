@@ -35,9 +35,8 @@ void ArchivePage::showIndex(const InformationModel& workbench)
     const auto& archiveDays = workbench.archiveDays();
     const QString today = packDay(workbench);
     QList<ArchiveDayRow> rows;
-    rows.reserve(archiveDays.size());
     for (const auto& day : archiveDays) {
-        rows.append(ArchiveDayRow::from(
+        rows.append(ArchiveDayRow::slicesOf(
             day, ArchiveDigest::focusSignals(day, workbench.signalIndex()), today));
     }
     m_days.setRows(rows);
@@ -60,7 +59,9 @@ void ArchivePage::showDay(const InformationModel& workbench)
     QList<ArchiveFocusRow> rows;
     if (day != archiveDays.cend()) {
         texts = ArchiveDayTexts::from(*day, archiveDays);
-        position = static_cast<int>(day - archiveDays.cbegin());
+        const auto& index = m_days.rows();
+        position = static_cast<int>(std::ranges::find(index, day->date, &ArchiveDayRow::date) -
+                                    index.cbegin());
         for (const auto& signal : ArchiveDigest::focusSignals(*day, workbench.signalIndex())) {
             rows.append(ArchiveFocusRow::from(signal, rows.size() + 1));
         }

@@ -15,13 +15,13 @@ class ArchivePage : public WorkbenchPage
     QML_ELEMENT
 
     Q_PROPERTY(QString summary READ summary NOTIFY summaryChanged FINAL)
-    /// Rows of `archiveDayRow`, newest first.
+    /// Rows of `archiveDayRow`, newest day first.
     Q_PROPERTY(QAbstractItemModel* days READ days CONSTANT FINAL)
 
     /// A day is selected and the history has it; else the index is to be shown.
     Q_PROPERTY(bool showsDay READ showsDay NOTIFY dayChanged FINAL)
     Q_PROPERTY(ArchiveDayTexts day READ day NOTIFY dayChanged FINAL)
-    /// Of the selected day in `days`; -1 while the index is to be shown.
+    /// Of the first row of the selected day in `days`; -1 while the index is to be shown.
     Q_PROPERTY(int dayPosition READ dayPosition NOTIFY dayChanged FINAL)
     /// Rows of `archiveFocusRow`.
     Q_PROPERTY(QAbstractItemModel* focusRows READ focusRows CONSTANT FINAL)

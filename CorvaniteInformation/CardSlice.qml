@@ -7,7 +7,9 @@ Item {
 
     required property bool first
     required property bool last
-    /// Where the rule above the row begins.
+    /// A rule separates the row from the one above.
+    property bool ruled: !first
+    /// Where the rule begins.
     property real ruleX: 24
     default property alias content: body.data
 
@@ -35,7 +37,7 @@ Item {
         x: slice.ruleX
         width: parent.width - x - 24
         height: 1
-        visible: !slice.first
+        visible: slice.ruled
         color: InformationTheme.hair
     }
 }

@@ -43,7 +43,7 @@ Column {
             AppText {
                 id: value
 
-                width: 36
+                width: Math.max(36, implicitWidth)
                 text: figure.modelData.value
                 textStyle: InformationTheme.figure
                 horizontalAlignment: Text.AlignRight
@@ -53,7 +53,7 @@ Column {
 
             AppText {
                 anchors.baseline: value.baseline
-                x: 44
+                x: value.width + 8
                 text: figure.modelData.label
                 textStyle: InformationTheme.small
                 color: InformationTheme.ink2

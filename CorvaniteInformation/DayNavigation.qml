@@ -7,6 +7,8 @@ Item {
 
     required property ArchivePage page
 
+    readonly property real sideRoom: (width - back.width) / 2
+
     implicitHeight: back.height
 
     Row {
@@ -33,12 +35,14 @@ Item {
 
         QuietButton {
             visible: text !== ""
+            width: Math.min(implicitWidth, navigation.sideRoom)
             text: navigation.page.day.previousText
             onClicked: navigation.page.workbench.openArchiveDay(navigation.page.day.previousDate)
         }
 
         QuietButton {
             visible: text !== ""
+            width: Math.min(implicitWidth, navigation.sideRoom)
             text: navigation.page.day.nextText
             onClicked: navigation.page.workbench.openArchiveDay(navigation.page.day.nextDate)
         }

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import CorvaniteInformation
 
-/// One day of the archive's index. A press opens the day.
+/// A slice of one day of the archive's index. A press opens the day.
 AppButton {
     id: section
 
@@ -47,6 +47,8 @@ AppButton {
                 text: section.row.weekday
                 textStyle: InformationTheme.small
                 color: InformationTheme.ink2
+                maximumLineCount: InformationTheme.longestName
+                elide: Text.ElideRight
             }
 
             Tag {
@@ -70,6 +72,7 @@ AppButton {
             spacing: 5
 
             AppText {
+                visible: section.row.opensDay
                 text: "精选："
                 textStyle: InformationTheme.meta
                 color: InformationTheme.ink2
@@ -88,6 +91,7 @@ AppButton {
         }
 
         Row {
+            visible: section.row.closesDay
             spacing: 6
 
             AppText {

@@ -22,6 +22,7 @@ Item {
         textStyle: InformationTheme.display
         color: InformationTheme.ink3
         wrapMode: Text.NoWrap
+        fontSizeMode: Text.HorizontalFit
     }
 
     Column {
@@ -51,6 +52,8 @@ Item {
                     text: section.row.laneAndSource
                     textStyle: InformationTheme.meta
                     color: InformationTheme.ink2
+                    maximumLineCount: InformationTheme.longestName
+                    elide: Text.ElideRight
                 }
             }
 

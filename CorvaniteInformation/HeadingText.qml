@@ -4,6 +4,8 @@ import CorvaniteInformation
 /// A text that a screen reader lists among the headings.
 AppText {
     textStyle: InformationTheme.title2
+    maximumLineCount: InformationTheme.longestName
+    elide: Text.ElideRight
 
     Accessible.role: Accessible.Heading
 }

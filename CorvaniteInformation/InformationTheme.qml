@@ -141,6 +141,9 @@ QtObject {
         lineHeight: 16
     }
 
+    /// A title, or whatever else names something, is cut off after so many lines.
+    readonly property int longestName: 12
+
     // Radii
     readonly property int cardRadius: 14
     readonly property int sheetRadius: 16

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import CorvaniteInformation
 
 /// The sheet with a signal's whole thread: its main points, how it came to be, further sources, and
@@ -15,7 +14,7 @@ Sheet {
     readonly property int sideMargin: 32
 
     width: 640
-    height: Math.min(header.height + sections.height, parent.height - 72)
+    height: Math.min(header.height + body.wholeHeight, parent.height - 72)
     title: threadPage.title
 
     onOpened: {
@@ -83,100 +82,13 @@ Sheet {
             }
         }
 
-        Flickable {
+        ThreadBody {
             id: body
 
             y: header.height
             width: parent.width
             height: parent.height - y
-
-            boundsBehavior: Flickable.StopAtBounds
-            clip: true
-            contentWidth: width
-            contentHeight: sections.height
-
-            Keys.forwardTo: [scroller]
-
-            T.ScrollBar.vertical: OverlayScrollBar {}
-
-            Column {
-                id: sections
-
-                x: sheet.sideMargin
-                width: body.width - 2 * x
-                topPadding: 20
-                bottomPadding: 28
-                spacing: 20
-
-                Optional {
-                    when: threadPage.hasDigest
-
-                    ThreadSection {
-                        width: sections.width
-                        heading: "页内要点"
-                        text: threadPage.digest
-                    }
-                }
-
-                ThreadTimeline {
-                    width: parent.width
-                    rows: threadPage.timeline
-                }
-
-                Optional {
-                    when: threadPage.originalAddress !== ""
-
-                    CitrineButton {
-                        text: "看最新原文"
-                        iconPath: IconPaths.arrowUpRight
-                        iconStroke: 2.25
-                        iconTrails: true
-                        onClicked: LinkOpener.open(threadPage.originalAddress)
-                    }
-                }
-
-                Column {
-                    width: parent.width
-                    visible: threadPage.relatedSources.length > 0 || threadPage.kept
-                    spacing: 16
-
-                    Rectangle {
-                        width: parent.width
-                        height: 1
-                        color: InformationTheme.hair
-                    }
-
-                    Column {
-                        width: parent.width
-                        spacing: 12
-
-                        Optional {
-                            when: threadPage.relatedSources.length > 0
-
-                            RelatedSourceLinks {
-                                width: sections.width
-                                sources: threadPage.relatedSources
-                            }
-                        }
-
-                        Optional {
-                            when: threadPage.kept
-
-                            KeptNote {
-                                width: sections.width
-                                thread: threadPage
-                                onCursorMoved: (editor, y, height) => scroller.reveal(editor, y, height)
-                            }
-                        }
-                    }
-                }
-            }
-        }
-
-        PaneScroller {
-            id: scroller
-
-            pane: body
+            page: threadPage
         }
     }
 }

@@ -48,6 +48,8 @@ AppButton {
                 text: control.row.status
                 textStyle: InformationTheme.small
                 color: InformationTheme.ink2
+                maximumLineCount: InformationTheme.longestName
+                elide: Text.ElideRight
             }
         }
 

@@ -57,6 +57,7 @@ AppButton {
             textStyle: control.textStyle
             color: control.tint
             wrapMode: Text.NoWrap
+            maximumLineCount: 1
             elide: Text.ElideRight
             Accessible.ignored: true
         }

@@ -10,11 +10,15 @@ PaneList {
     property Item head: null
     property Item foot: null
 
-    readonly property real columnWidth: Math.min(760, width - 48)
+    property int sideMargin: 24
+    property int topSpace: width >= 1440 ? 40 : 32
+    property int bottomSpace: 40
+
+    readonly property real columnWidth: Math.min(760, width - 2 * sideMargin)
     readonly property real columnX: Math.round((width - columnWidth) / 2)
 
-    topMargin: (width >= 1440 ? 40 : 32) + (head?.height ?? 0)
-    bottomMargin: 40 + (foot?.height ?? 0)
+    topMargin: topSpace + (head?.height ?? 0)
+    bottomMargin: bottomSpace + (foot?.height ?? 0)
 
     Binding {
         target: list.head

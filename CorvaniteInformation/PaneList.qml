@@ -10,7 +10,7 @@ ListView {
     /// How far beyond its edges the list holds rows: far enough for the Tab key and a screen reader to
     /// go on. They are made at once. Rows that a cache buffer makes one by one would stand in no place
     /// until it is their turn, and are asked for by their old places after the list has shrunk.
-    readonly property int reach: 2400
+    property int reach: 2400
 
     readonly property alias scroller: scroller
 

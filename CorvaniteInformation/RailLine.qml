@@ -41,9 +41,11 @@ AppButton {
     }
 
     AppText {
+        id: number
+
         x: line.overhang
         y: 8
-        width: 22
+        width: Math.max(22, implicitWidth)
         text: line.row.number
         textStyle: InformationTheme.meta
         color: InformationTheme.ink3
@@ -53,7 +55,7 @@ AppButton {
     AppText {
         id: title
 
-        x: line.overhang + 30
+        x: number.x + number.width + 8
         y: 8
         width: badge.x - 12 - x
         text: line.row.title

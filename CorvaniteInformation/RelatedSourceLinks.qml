@@ -3,16 +3,33 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import CorvaniteInformation
 
-/// Further sources of a signal.
+/// A slice of a signal's further sources; the first stands below a rule and a heading.
 Column {
     id: links
 
-    required property list<relatedSourceRow> sources
+    required property threadRow row
 
-    HeadingText {
-        width: parent.width
-        text: "更多原文"
-        textStyle: InformationTheme.smallBold
+    topPadding: 20
+
+    Optional {
+        when: links.row.first
+
+        Column {
+            width: links.width
+            spacing: 16
+
+            Rectangle {
+                width: parent.width
+                height: 1
+                color: InformationTheme.hair
+            }
+
+            HeadingText {
+                width: parent.width
+                text: "更多原文"
+                textStyle: InformationTheme.smallBold
+            }
+        }
     }
 
     Flow {
@@ -20,7 +37,7 @@ Column {
         spacing: 20
 
         Repeater {
-            model: links.sources
+            model: links.row.sources
 
             SourceLink {
                 required property relatedSourceRow modelData

@@ -34,6 +34,7 @@ Item {
             spacing: 8
 
             SignalCardMeta {
+                width: parent.width
                 row: face.row
             }
 

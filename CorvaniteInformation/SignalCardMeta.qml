@@ -37,9 +37,13 @@ Row {
     Dot {}
 
     AppText {
+        width: Math.min(implicitWidth, meta.width - x - 72)
+        wrapMode: Text.NoWrap
         text: meta.row.timeLabel
         textStyle: InformationTheme.meta
         color: InformationTheme.ink2
+        maximumLineCount: 1
+        elide: Text.ElideRight
     }
 
     Optional {

@@ -22,7 +22,7 @@ AppButton {
     /// The height of the text alone. The link is taller than it looks, to be easy to press.
     readonly property real textHeight: label.height
 
-    implicitWidth: Math.ceil(metrics.advanceWidth) + arrowSpace
+    implicitWidth: Math.max(16, Math.ceil(metrics.advanceWidth)) + arrowSpace
     implicitHeight: Math.max(28, textHeight)
     radius: 2
     enabled: link.address !== ""
@@ -52,6 +52,8 @@ AppButton {
         textStyle: link.textStyle
         font: link.hovered && !link.down ? link.hoverFont : link.restFont
         color: link.tint
+        maximumLineCount: InformationTheme.longestName
+        elide: Text.ElideRight
         Accessible.ignored: true
     }
 

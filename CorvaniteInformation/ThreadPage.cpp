@@ -8,9 +8,8 @@
 
 ThreadPage::Thread ThreadPage::Thread::from(const InformationSignal& signal)
 {
-    return {signal.title, signal.digest, TimelineRow::timelineOf(signal),
-            OpenableAddress::from(signal.originalURL),
-            RelatedSourceRow::listOf(signal.relatedSources)};
+    return {signal.title, signal.digest, OpenableAddress::from(signal.originalURL),
+            !signal.relatedSources.isEmpty()};
 }
 
 void ThreadPage::setSignalId(const QString& signalId)
@@ -50,6 +49,7 @@ void ThreadPage::show(const InformationModel& workbench)
     if (!signal) {
         return;
     }
+    m_rows.setRows(ThreadRow::columnOf(*signal));
     auto thread = Thread::from(*signal);
     if (m_thread != thread) {
         m_thread = std::move(thread);

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "RelatedSourceRow.h"
-#include "TimelineRow.h"
+#include "RowListModel.h"
+#include "ThreadRow.h"
 #include "WorkbenchPage.h"
 
-#include <QList>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
@@ -21,11 +20,11 @@ class ThreadPage : public WorkbenchPage
     Q_PROPERTY(QString title READ title NOTIFY threadChanged FINAL)
     Q_PROPERTY(bool hasDigest READ hasDigest NOTIFY threadChanged FINAL)
     Q_PROPERTY(QString digest READ digest NOTIFY threadChanged FINAL)
-    Q_PROPERTY(QList<TimelineRow> timeline READ timeline NOTIFY threadChanged FINAL)
     /// Empty when the original has no address to open.
     Q_PROPERTY(QString originalAddress READ originalAddress NOTIFY threadChanged FINAL)
-    Q_PROPERTY(
-        QList<RelatedSourceRow> relatedSources READ relatedSources NOTIFY threadChanged FINAL)
+    Q_PROPERTY(bool hasSources READ hasSources NOTIFY threadChanged FINAL)
+    /// Rows of `threadRow`.
+    Q_PROPERTY(QAbstractItemModel* rows READ rows CONSTANT FINAL)
 
     Q_PROPERTY(bool kept READ kept NOTIFY keptChanged FINAL)
     Q_PROPERTY(QString saveReason READ saveReason NOTIFY keptChanged FINAL)
@@ -39,9 +38,9 @@ public:
     const QString& title() const { return m_thread.title; }
     bool hasDigest() const { return m_thread.digest.has_value(); }
     QString digest() const { return m_thread.digest.value_or(QString()); }
-    const QList<TimelineRow>& timeline() const { return m_thread.timeline; }
     const QString& originalAddress() const { return m_thread.originalAddress; }
-    const QList<RelatedSourceRow>& relatedSources() const { return m_thread.relatedSources; }
+    bool hasSources() const { return m_thread.hasSources; }
+    RowListModel<ThreadRow>* rows() { return &m_rows; }
     bool kept() const { return m_saved.has_value(); }
     QString saveReason() const { return m_saved ? m_saved->reason : QString(); }
 
@@ -68,9 +67,8 @@ private:
     {
         QString title;
         std::optional<QString> digest;
-        QList<TimelineRow> timeline;
         QString originalAddress;
-        QList<RelatedSourceRow> relatedSources;
+        bool hasSources = false;
 
         static Thread from(const InformationSignal& signal);
         friend bool operator==(const Thread&, const Thread&) = default;
@@ -88,6 +86,7 @@ private:
 
     QString m_signalId;
     Thread m_thread;
+    RowListModel<ThreadRow> m_rows;
     /// Of a kept signal.
     std::optional<Saved> m_saved;
     bool m_writingNote = false;

@@ -6,19 +6,17 @@ Item {
     id: node
 
     required property timelineRow row
-    required property bool first
-    required property bool last
 
     readonly property int axis: 6
     readonly property int nodeY: 12
 
-    implicitHeight: Math.max(texts.height, date.y + date.height) + (last ? 0 : 16)
+    implicitHeight: Math.max(texts.height, date.y + date.height) + (row.isLast ? 0 : 16)
 
     Rectangle {
         x: node.axis
-        y: node.first ? node.nodeY : 0
+        y: node.row.isNow ? node.nodeY : 0
         width: 1
-        height: (node.last ? node.nodeY : node.height) - y
+        height: (node.row.isLast ? node.nodeY : node.height) - y
         color: InformationTheme.hairStrong
     }
 
@@ -63,6 +61,8 @@ Item {
             text: node.row.source
             textStyle: InformationTheme.caption
             color: InformationTheme.ink2
+            maximumLineCount: InformationTheme.longestName
+            elide: Text.ElideRight
         }
     }
 }

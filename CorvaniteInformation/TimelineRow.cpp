@@ -18,5 +18,6 @@ QList<TimelineRow> TimelineRow::timelineOf(const InformationSignal& signal)
         row.source = event.source;
         rows.append(row);
     }
+    rows.last().isLast = true;
     return rows;
 }

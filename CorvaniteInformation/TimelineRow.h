@@ -17,6 +17,7 @@ struct TimelineRow
     Q_PROPERTY(QString summary MEMBER summary CONSTANT FINAL)
     Q_PROPERTY(QString source MEMBER source CONSTANT FINAL)
     Q_PROPERTY(bool isNow MEMBER isNow CONSTANT FINAL)
+    Q_PROPERTY(bool isLast MEMBER isLast CONSTANT FINAL)
 
 public:
     /// The signal's present state, then its recorded events in their order.
@@ -26,7 +27,9 @@ public:
     QString summary;
     /// Empty for the present state.
     QString source;
+    /// The present state, which comes first.
     bool isNow = false;
+    bool isLast = false;
 
     friend bool operator==(const TimelineRow&, const TimelineRow&) = default;
 };

@@ -9,7 +9,7 @@ Item {
     required property string text
     required property string trail
 
-    readonly property bool trailFits: main.lastLineWidth + end.implicitWidth <= width
+    readonly property bool trailFits: !main.truncated && main.lastLineWidth + end.implicitWidth <= width
 
     implicitHeight: main.height + (trailFits ? 0 : end.height)
 
@@ -23,6 +23,8 @@ Item {
 
         width: parent.width
         text: paragraph.text
+        maximumLineCount: InformationTheme.longestName
+        elide: Text.ElideRight
         Accessible.ignored: true
 
         // Lines that are laid out by hand stand at the bottom of a fixed height, all others at its top.

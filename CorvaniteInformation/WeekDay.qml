@@ -3,71 +3,80 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import CorvaniteInformation
 
-/// One day of a week: its date, what was featured, the way to the whole day.
-Item {
+/// A slice of one day of a week: its date, what was featured, the way to the whole day.
+CardSlice {
     id: day
 
     required property weekDayRow row
-    /// A rule separates the day from the one above.
-    required property bool ruled
 
     signal opened
 
-    implicitHeight: Math.max(date.height, list.height) + 36
+    first: row.opensWeek
+    last: row.closesWeek
+    ruled: row.opensDay && !first
 
-    Rectangle {
-        x: 24
-        width: parent.width - 48
-        height: 1
-        visible: day.ruled
-        color: InformationTheme.hair
-    }
+    Item {
+        width: day.width
+        height: list.y + Math.max(date.height, list.height) + (day.row.closesDay ? 16 : 0)
 
-    Column {
-        id: date
+        Column {
+            id: date
 
-        x: 24
-        y: 20
-        width: 136
-        spacing: 2
+            x: 24
+            y: 20
+            width: 136
 
-        AppText {
-            width: parent.width
-            text: day.row.label
-            textStyle: InformationTheme.bodyBold
-        }
+            Optional {
+                when: day.row.opensDay
 
-        AppText {
-            width: parent.width
-            text: day.row.count
-            textStyle: InformationTheme.caption
-            color: InformationTheme.ink2
-        }
-    }
+                Column {
+                    width: date.width
+                    spacing: 2
 
-    Column {
-        id: list
+                    AppText {
+                        width: parent.width
+                        text: day.row.label
+                        textStyle: InformationTheme.bodyBold
+                    }
 
-        x: 184
-        y: 20
-        width: parent.width - x - 24
-        spacing: 4
-
-        Repeater {
-            model: day.row.entries
-
-            WeekEntry {
-                required property weekEntryRow modelData
-
-                width: list.width
-                row: modelData
+                    AppText {
+                        width: parent.width
+                        text: day.row.count
+                        textStyle: InformationTheme.caption
+                        color: InformationTheme.ink2
+                    }
+                }
             }
         }
 
-        LinkText {
-            text: "查看当日完整精选 →"
-            Accessible.name: day.row.linkName
-            onClicked: day.opened()
+        Column {
+            id: list
+
+            x: 184
+            y: day.row.opensDay ? 20 : 4
+            width: parent.width - x - 24
+            spacing: 4
+
+            Repeater {
+                model: day.row.entries
+
+                WeekEntry {
+                    required property weekEntryRow modelData
+
+                    width: list.width
+                    row: modelData
+                }
+            }
+
+            Optional {
+                when: day.row.closesDay
+
+                LinkText {
+                    text: "查看当日完整精选 →"
+                    Accessible.name: day.row.linkName
+                    onClicked: day.opened()
+                }
+            }
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "SelectionDay.h"
 #include "WeekEntryRow.h"
+#include "WeeklyDigest.h"
 
 #include <QHash>
 #include <QList>
@@ -9,7 +10,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-/// One day of the weekly digest.
+/// A slice of one day of the weekly digest.
 struct WeekDayRow
 {
     Q_GADGET
@@ -20,10 +21,18 @@ struct WeekDayRow
     Q_PROPERTY(QString count MEMBER count CONSTANT FINAL)
     Q_PROPERTY(QList<WeekEntryRow> entries MEMBER entries CONSTANT FINAL)
     Q_PROPERTY(QString linkName MEMBER linkName CONSTANT FINAL)
+    Q_PROPERTY(bool opensDay MEMBER opensDay CONSTANT FINAL)
+    Q_PROPERTY(bool closesDay MEMBER closesDay CONSTANT FINAL)
+    Q_PROPERTY(bool opensWeek MEMBER opensWeek CONSTANT FINAL)
+    Q_PROPERTY(bool closesWeek MEMBER closesWeek CONSTANT FINAL)
 
 public:
     /// @param index the signals that are still there, by id
-    static WeekDayRow from(const SelectionDay& day, const QHash<QString, InformationSignal>& index);
+    static QList<WeekDayRow> slicesOf(const SelectionDay& day,
+                                      const QHash<QString, InformationSignal>& index);
+    /// The days of a week in their order.
+    static QList<WeekDayRow> slicesOf(const WeeklyDigest::Week& week,
+                                      const QHash<QString, InformationSignal>& index);
 
     /// As in the selection history.
     QString date;
@@ -32,6 +41,12 @@ public:
     QList<WeekEntryRow> entries;
     /// The link to the whole day, for a screen reader.
     QString linkName;
+    /// The first slice of its day, which shows the date.
+    bool opensDay = false;
+    /// The last slice of its day, which leads to the whole day.
+    bool closesDay = false;
+    bool opensWeek = false;
+    bool closesWeek = false;
 
     friend bool operator==(const WeekDayRow&, const WeekDayRow&) = default;
 };

@@ -14,6 +14,8 @@ Item {
 
         width: parent.width - (lane.visible ? lane.width + 24 : 0)
         text: entry.row.title
+        maximumLineCount: InformationTheme.longestName
+        elide: Text.ElideRight
         color: entry.row.resolved ? InformationTheme.ink : InformationTheme.ink3
     }
 

@@ -12,9 +12,5 @@ WeekRow WeekRow::from(const WeeklyDigest::Week& week,
     row.running = week.weekId == currentWeekId;
     row.badge = WeeklyDigestLabels::badge(row.running);
     row.summary = WeeklyDigestLabels::summary(week, index);
-    row.days.reserve(week.days.size());
-    for (const auto& day : week.days) {
-        row.days.append(WeekDayRow::from(day, index));
-    }
     return row;
 }

@@ -1,17 +1,16 @@
 #pragma once
 
-#include "WeekDayRow.h"
+#include "InformationSignal.h"
 #include "WeeklyDigest.h"
 
 #include <QHash>
-#include <QList>
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
 #include <optional>
 
-/// One week of the weekly digest.
+/// The head of one week of the weekly digest.
 struct WeekRow
 {
     Q_GADGET
@@ -21,7 +20,6 @@ struct WeekRow
     Q_PROPERTY(QString badge MEMBER badge CONSTANT FINAL)
     Q_PROPERTY(bool running MEMBER running CONSTANT FINAL)
     Q_PROPERTY(QString summary MEMBER summary CONSTANT FINAL)
-    Q_PROPERTY(QList<WeekDayRow> days MEMBER days CONSTANT FINAL)
 
 public:
     /// @param index the signals that are still there, by id
@@ -36,9 +34,6 @@ public:
     /// The week is the present one.
     bool running = false;
     QString summary;
-    QList<WeekDayRow> days;
-
-    const QString& key() const { return weekId; }
 
     friend bool operator==(const WeekRow&, const WeekRow&) = default;
 };

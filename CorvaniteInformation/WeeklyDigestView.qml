@@ -23,9 +23,8 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
-        spacing: 32
         head: head
-        model: page.weeks
+        model: page.rows
 
         Column {
             id: head
@@ -53,18 +52,37 @@ FocusScope {
         delegate: Item {
             id: place
 
-            required property weekRow row
+            required property weeklyRow row
+            required property int index
 
             width: list.width
-            implicitHeight: week.height
+            implicitHeight: face.height
 
-            WeekSection {
-                id: week
+            Column {
+                id: face
 
                 x: list.columnX
                 width: list.columnWidth
-                row: place.row
-                onDayOpened: date => surface.workbench.openArchiveDay(date)
+
+                Optional {
+                    when: !place.row.isDay
+
+                    WeekHead {
+                        width: face.width
+                        topPadding: place.index === 0 ? 0 : 32
+                        row: place.row.week
+                    }
+                }
+
+                Optional {
+                    when: place.row.isDay
+
+                    WeekDay {
+                        width: face.width
+                        row: place.row.day
+                        onOpened: surface.workbench.openArchiveDay(row.date)
+                    }
+                }
             }
         }
     }

@@ -2,14 +2,17 @@
 
 namespace {
 
-QList<WeekRow> weekRows(const InformationModel& workbench)
+QList<WeeklyRow> weeklyRows(const InformationModel& workbench)
 {
     const auto currentWeekId =
         WeeklyDigest::beijingWeekOfDay(WeeklyDigest::beijingToday(workbench.now()));
-    QList<WeekRow> rows;
-    rows.reserve(workbench.weeklyWeeks().size());
+    const auto& index = workbench.signalIndex();
+    QList<WeeklyRow> rows;
     for (const auto& week : workbench.weeklyWeeks()) {
-        rows.append(WeekRow::from(week, workbench.signalIndex(), currentWeekId));
+        rows.append({.isDay = false, .week = WeekRow::from(week, index, currentWeekId), .day = {}});
+        for (const auto& day : WeekDayRow::slicesOf(week, index)) {
+            rows.append({.isDay = true, .week = {}, .day = day});
+        }
     }
     return rows;
 }
@@ -23,8 +26,8 @@ void WeeklyPage::follow(const InformationModel& workbench)
 
 void WeeklyPage::show(const InformationModel& workbench)
 {
-    m_weeks.setRows(weekRows(workbench));
-    const bool empty = m_weeks.rows().isEmpty();
+    m_rows.setRows(weeklyRows(workbench));
+    const bool empty = m_rows.rows().isEmpty();
     if (m_empty != empty) {
         m_empty = empty;
         Q_EMIT emptyChanged();

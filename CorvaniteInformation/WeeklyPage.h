@@ -1,7 +1,7 @@
 #pragma once
 
 #include "RowListModel.h"
-#include "WeekRow.h"
+#include "WeeklyRow.h"
 #include "WorkbenchPage.h"
 
 /// The weekly surface.
@@ -11,14 +11,14 @@ class WeeklyPage : public WorkbenchPage
     QML_ELEMENT
 
     Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged FINAL)
-    /// Rows of `weekRow`, newest first.
-    Q_PROPERTY(QAbstractItemModel* weeks READ weeks CONSTANT FINAL)
+    /// Rows of `weeklyRow`: each week, newest first, and after it its days.
+    Q_PROPERTY(QAbstractItemModel* rows READ rows CONSTANT FINAL)
 
 public:
     using WorkbenchPage::WorkbenchPage;
 
     bool empty() const { return m_empty; }
-    RowListModel<WeekRow>* weeks() { return &m_weeks; }
+    RowListModel<WeeklyRow>* rows() { return &m_rows; }
 
 Q_SIGNALS:
     void emptyChanged();
@@ -29,5 +29,5 @@ protected:
 
 private:
     bool m_empty = true;
-    RowListModel<WeekRow> m_weeks;
+    RowListModel<WeeklyRow> m_rows;
 };

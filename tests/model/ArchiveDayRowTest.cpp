@@ -13,6 +13,7 @@ private Q_SLOTS:
     void onlyThePacksDayIsToday_data();
     void onlyThePacksDayIsToday();
     void aDayThatDoesNotReadIsShownAsStored();
+    void aLongDayIsDealtOut();
 };
 
 void ArchiveDayRowTest::listsTheDaysFocus()
@@ -20,9 +21,14 @@ void ArchiveDayRowTest::listsTheDaysFocus()
     auto shift = sampleSignal(u"shift"_qs);
     shift.lane = InformationLane::PlatformShift;
 
-    const auto row = ArchiveDayRow::from({u"2026-08-26"_qs, {u"shift"_qs, u"product"_qs}, 27},
-                                         {shift, sampleSignal(u"product"_qs)}, {});
+    const auto slices =
+        ArchiveDayRow::slicesOf({u"2026-08-26"_qs, {u"shift"_qs, u"product"_qs}, 27},
+                                {shift, sampleSignal(u"product"_qs)}, {});
 
+    QCOMPARE(slices.size(), 1);
+    const auto& row = slices.first();
+    QVERIFY(row.opensDay);
+    QVERIFY(row.closesDay);
     QCOMPARE(row.date, u"2026-08-26"_qs);
     QCOMPARE(row.monthDay, u"8月26日"_qs);
     QCOMPARE(row.weekday, u"星期三"_qs);
@@ -39,8 +45,9 @@ void ArchiveDayRowTest::listsTheDaysFocus()
 
 void ArchiveDayRowTest::countsEveryFocusIdAndNumbersThoseStillThere()
 {
-    const auto row = ArchiveDayRow::from({u"2026-08-26"_qs, {u"gone"_qs, u"product"_qs}, 0},
-                                         {sampleSignal(u"product"_qs)}, {});
+    const auto row = ArchiveDayRow::slicesOf({u"2026-08-26"_qs, {u"gone"_qs, u"product"_qs}, 0},
+                                             {sampleSignal(u"product"_qs)}, {})
+                         .first();
 
     QCOMPARE(row.closing, u"当日共 0 条 · 先看 2 条 · 查看这一天 →"_qs);
     QCOMPARE(row.entries.size(), 1);
@@ -61,16 +68,35 @@ void ArchiveDayRowTest::onlyThePacksDayIsToday()
 {
     QFETCH(QString, packDay);
 
-    QTEST(ArchiveDayRow::from({u"2026-08-26"_qs, {}, 0}, {}, packDay).isToday, "isToday");
+    const auto row = ArchiveDayRow::slicesOf({u"2026-08-26"_qs, {}, 0}, {}, packDay).first();
+
+    QTEST(row.isToday, "isToday");
 }
 
 void ArchiveDayRowTest::aDayThatDoesNotReadIsShownAsStored()
 {
-    const auto row = ArchiveDayRow::from({u"2026-8-26"_qs, {}, 0}, {}, {});
+    const auto row = ArchiveDayRow::slicesOf({u"2026-8-26"_qs, {}, 0}, {}, {}).first();
 
     QCOMPARE(row.monthDay, u"2026-8-26"_qs);
     QCOMPARE(row.weekday, u"2026-8-26"_qs);
     QCOMPARE(row.name, u"查看2026-8-26的完整精选"_qs);
+}
+
+void ArchiveDayRowTest::aLongDayIsDealtOut()
+{
+    const QList<InformationSignal> focusSignals(13, sampleSignal(u"a"_qs));
+
+    const auto slices = ArchiveDayRow::slicesOf({u"2026-08-26"_qs, {}, 0}, focusSignals, {});
+
+    QCOMPARE(slices.size(), 2);
+    QCOMPARE(slices[0].entries.size(), 12);
+    QVERIFY(slices[0].opensDay);
+    QVERIFY(!slices[0].closesDay);
+    QCOMPARE(slices[1].entries.size(), 1);
+    QCOMPARE(slices[1].entries.first().number, u"13"_qs);
+    QCOMPARE(slices[1].name, slices[0].name);
+    QVERIFY(!slices[1].opensDay);
+    QVERIFY(slices[1].closesDay);
 }
 
 QTEST_GUILESS_MAIN(ArchiveDayRowTest)

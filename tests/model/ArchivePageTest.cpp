@@ -29,6 +29,7 @@ private Q_SLOTS:
     void todayIsTheBeijingDayOfThePack();
     void showsTheSelectedDay();
     void ranksCountTheSignalsThatAreStillThere();
+    void aDayStandsBelowTheSlicesOfALongOne();
     void goesBackToTheIndex();
     void goesFromDayToDay();
     void theFirstOfRepeatedDatesIsShown();
@@ -125,6 +126,22 @@ void ArchivePageTest::ranksCountTheSignalsThatAreStillThere()
     QCOMPARE(rows[0].title, u"Title of b"_qs);
     QCOMPARE(rows[1].rank, u"02"_qs);
     QCOMPARE(rows[1].title, u"Title of a"_qs);
+}
+
+void ArchivePageTest::aDayStandsBelowTheSlicesOfALongOne()
+{
+    auto sample = threeDays();
+    sample.selectionDays[1].focusSignalIds = QList<QString>(25, u"a"_qs);
+    const auto model = sample.make();
+    ArchivePage page;
+    page.setWorkbench(model.get());
+    QCOMPARE(page.summary(), u"3 天记录"_qs);
+    QCOMPARE(page.days()->rowCount(), 5);
+
+    model->openArchiveDay(u"2026-09-02"_qs);
+    QCOMPARE(page.dayPosition(), 0);
+    model->openArchiveDay(u"2026-09-01"_qs);
+    QCOMPARE(page.dayPosition(), 3);
 }
 
 void ArchivePageTest::goesBackToTheIndex()

@@ -14,6 +14,7 @@ private Q_SLOTS:
 
         QCOMPARE(rows.size(), 1);
         QVERIFY(rows.first().isNow);
+        QVERIFY(rows.first().isLast);
         QCOMPARE(rows.first().date, u"现在"_qs);
         QCOMPARE(rows.first().summary, u"Summary of a"_qs);
         QCOMPARE(rows.first().source, QString());
@@ -34,6 +35,8 @@ private Q_SLOTS:
         QCOMPARE(rows.at(1).source, u"榜单"_qs);
         QVERIFY(!rows.at(1).isNow);
         QCOMPARE(rows.at(2).date, u"2026-08-27"_qs);
+        QVERIFY(!rows.at(1).isLast);
+        QVERIFY(rows.at(2).isLast);
     }
 };
 

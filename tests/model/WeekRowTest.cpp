@@ -1,6 +1,5 @@
 #include "WeekRow.h"
 #include "InformationSignalIndex.h"
-#include "LaneColor.h"
 #include "SampleSignal.h"
 
 #include <QTest>
@@ -36,8 +35,6 @@ private Q_SLOTS:
     void aWeekOfNothingThatIsStillThereCoversNoLane();
     void theBadgeTellsWhetherTheWeekRuns_data();
     void theBadgeTellsWhetherTheWeekRuns();
-    void aDayListsItsFocusInStoredOrder();
-    void aDayThatDoesNotReadIsShownAsStored();
 };
 
 void WeekRowTest::aWeekCountsDaysFocusAndLanes()
@@ -46,7 +43,6 @@ void WeekRowTest::aWeekCountsDaysFocusAndLanes()
 
     QCOMPARE(row.range, u"8月24日–8月30日"_qs);
     QCOMPARE(row.summary, u"2 天 · 5 条焦点 · 覆盖 2 条泳道"_qs);
-    QCOMPARE(row.days.size(), 2);
 }
 
 void WeekRowTest::aWeekOfNothingThatIsStillThereCoversNoLane()
@@ -73,33 +69,6 @@ void WeekRowTest::theBadgeTellsWhetherTheWeekRuns()
 
     QTEST(row.running, "running");
     QTEST(row.badge, "badge");
-}
-
-void WeekRowTest::aDayListsItsFocusInStoredOrder()
-{
-    const auto day = WeekRow::from(sampleWeek(), sampleIndex(), std::nullopt).days.first();
-
-    QCOMPARE(day.date, u"2026-08-24"_qs);
-    QCOMPARE(day.label, u"8月24日 星期一"_qs);
-    QCOMPARE(day.count, u"共 17 条在册"_qs);
-    QCOMPARE(day.linkName, u"查看8月24日 星期一的完整精选"_qs);
-
-    QCOMPARE(day.entries.size(), 2);
-    QCOMPARE(day.entries[0].title, u"Title of tool"_qs);
-    QVERIFY(day.entries[0].resolved);
-    QCOMPARE(day.entries[0].laneColor, laneColor(InformationLane::Workflow));
-    QCOMPARE(day.entries[0].laneName, u"工作流与方法"_qs);
-    QCOMPARE(day.entries[1].title, u"已归档条目（gone）"_qs);
-    QVERIFY(!day.entries[1].resolved);
-    QCOMPARE(day.entries[1].laneName, QString());
-}
-
-void WeekRowTest::aDayThatDoesNotReadIsShownAsStored()
-{
-    const auto day = WeekDayRow::from({u"某天"_qs, {}, 0}, {});
-
-    QCOMPARE(day.label, u"某天"_qs);
-    QCOMPARE(day.linkName, u"查看某天的完整精选"_qs);
 }
 
 QTEST_GUILESS_MAIN(WeekRowTest)

@@ -9,14 +9,20 @@
 #include <QQuickWindow>
 #include <QtQml/qqmlextensionplugin.h>
 
+#include <functional>
+
 Q_IMPORT_QML_PLUGIN(CorvaniteInformationPlugin)
 
 /// The program's whole window over a model, which has to outlive it.
 class WorkbenchWindow
 {
 public:
-    explicit WorkbenchWindow(InformationModel& model, QSize size = {1120, 780})
+    /// @param prepare is called before the engine loads anything
+    explicit WorkbenchWindow(
+        InformationModel& model, QSize size = {1120, 780},
+        const std::function<void(QQmlEngine&)>& prepare = [](QQmlEngine&) {})
     {
+        prepare(m_engine);
         // Without motion a screen stands still once its items are laid out.
         QMetaObject::invokeMethod(
             &m_appearance, "takeSetting", Q_ARG(QString, u"org.gnome.desktop.interface"_qs),
