@@ -37,7 +37,7 @@ Row {
     Dot {}
 
     AppText {
-        width: Math.min(implicitWidth, meta.width - x - 72)
+        width: Math.min(Math.max(16, implicitWidth), meta.width - x - 72)
         wrapMode: Text.NoWrap
         text: meta.row.timeLabel
         textStyle: InformationTheme.meta

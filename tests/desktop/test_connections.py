@@ -5,7 +5,6 @@ import re
 import unittest
 from pathlib import Path
 
-from commands import succeeds
 from desktop_test import DesktopTest, workspace_when
 from loopback_site import Site
 from polling import wait_until
@@ -20,32 +19,15 @@ from test_sync import (
     newer_pack,
     version_document,
 )
+from tracing import can_trace, traced, whole
 from world import World
 
 SURFACES = ["已收下", "周报", "往期", "信源", "今天"]
-
-# The tracer is a child of the program, which so keeps its process number.
-TRACED = """#!/bin/sh
-exec strace -D -f -q -y --seccomp-bpf -e trace=network,openat -o '{trace}' '{program}'
-"""
 
 PEER = re.compile(
     r"\b(?:connect|sendto|sendmsg|sendmmsg)\(.*?\{sa_family=(?!AF_UNIX|AF_NETLINK)([^}]*)\}"
 )
 WRITTEN = re.compile(r'\bopenat\((?:AT_FDCWD|\d+)(?:<(.*?)>)?, "([^"]*)", [A-Z_|]*O_(?:WRONLY|RDWR)')
-
-
-def can_trace(world: World) -> bool:
-    return succeeds(["strace", "-qq", "-o", "/dev/null", "true"], world.environment)
-
-
-def traced(program: Path, world: World) -> tuple[Path, Path]:
-    """The program under a trace, and the file of the trace."""
-    trace = world.folder / "trace"
-    start = world.folder / "traced-start"
-    start.write_text(TRACED.format(trace=trace, program=program))
-    start.chmod(0o700)
-    return start, trace
 
 
 def peers(trace: str) -> set[str]:
@@ -67,7 +49,7 @@ class ConnectionsTest(DesktopTest):
         }
         with Site(documents) as site, self.world() as world:
             traceable = can_trace(world)
-            start, trace = traced(LOOPBACK_PROGRAM, world)
+            start, trace = traced(LOOPBACK_PROGRAM, world, "network,openat")
             program = world.start(start if traceable else LOOPBACK_PROGRAM, site=site.origin)
             self.go_through(program, world)
             self.assertEqual(0, program.close())
@@ -77,9 +59,7 @@ class ConnectionsTest(DesktopTest):
             if not traceable:
                 print("skipped, as no process can be traced here: other connections, files written")
                 return
-            ended = f"{program.process.pid} +++ exited with 0 +++"
-            wait_until(lambda: ended in trace.read_text(), "the trace is complete")
-            self.check(trace.read_text(), site, world)
+            self.check(whole(trace, program), site, world)
 
     def go_through(self, program: Program, world: World) -> None:
         program.wait_for("新版本 1.3.0 已发布")

@@ -65,6 +65,7 @@ private:
 struct Stop
 {
     QString name;
+    std::function<void(SampleModel&)> prepare = [](SampleModel&) {};
     std::function<void(InformationModel&)> act = [](InformationModel&) {};
     std::function<void(const WorkbenchWindow&, const InformationModel&)> open =
         [](const WorkbenchWindow&, const InformationModel&) {};
@@ -93,6 +94,7 @@ public:
     Visit(const std::function<void(SampleModel&)>& fill, const Stop& stop, QSize size)
     {
         fill(m_sample);
+        stop.prepare(m_sample);
         m_model = m_sample.make();
         stop.act(*m_model);
         m_model->dismissReceipt();
@@ -178,6 +180,9 @@ QList<Stop> stops()
 {
     return {
         {.name = u"today"_qs},
+        // A pack stamped in whole seconds shows what was featured that day.
+        {.name = u"today, everything featured"_qs,
+         .prepare = [](SampleModel& sample) { sample.packAsOf = u"2026-09-01T01:00:00Z"_qs; }},
         {.name = u"today, a word without end"_qs,
          .act =
              [](InformationModel& model) { model.setActiveLane(InformationLane::FounderStory); }},

@@ -120,6 +120,55 @@ private Q_SLOTS:
         QVERIFY(ScreenReader::place(sheet).contains(inScene));
     }
 
+    void theNoteStaysAsItIsWhileTheThreadChanges()
+    {
+        openKept();
+        window().type("ac");
+        window().pressKey(Qt::Key_Left);
+        const auto* const editor = note();
+        const auto title = u"页内要点"_qs;
+        QVERIFY(window().find(title, QAccessible::Heading));
+
+        m_visit->sample().site->answers.insert(
+            ProductSite::packPath,
+            SiteReply{.body = SiteDocuments::pack(u"2026-09-03T00:00:00.000Z"_qs, {u"a"_qs}),
+                      .status = 200});
+        model().refreshPackFromSite();
+        QTRY_VERIFY(!window().find(title, QAccessible::Heading));
+
+        QCOMPARE(note(), editor);
+        QVERIFY(note()->hasActiveFocus());
+        window().type("b");
+        QCOMPARE(stored(), u"abc"_qs);
+    }
+
+    void theNoteOfALongThreadStaysWhereItIsLeft()
+    {
+        auto& signal = m_visit->sample().signals.first();
+        for (int i = 0; i < 1000; ++i) {
+            signal.timeline.append({u"day"_qs, {}, u"Event %1"_qs.arg(i), {}});
+        }
+        m_visit.emplace(
+            ScreenTour::Stop{
+                .name = {},
+                .prepare = [signal](SampleModel& sample) { sample.signals.first() = signal; }},
+            QSize(1120, 780));
+        openKept();
+        window().type("ac");
+        window().pressKey(Qt::Key_Left);
+        auto* const editor = note();
+
+        auto* const body = ScreenReader::paneAround(editor->parentItem());
+        QMetaObject::invokeMethod(body, "positionViewAtBeginning");
+        window().settle();
+        QVERIFY(window().find(u"Summary of a"_qs, QAccessible::StaticText));
+        window().type("b");
+
+        QCOMPARE(stored(), u"abc"_qs);
+        QCOMPARE(note(), editor);
+        QVERIFY(ScreenReader::place(body).intersects(ScreenReader::place(editor)));
+    }
+
 private:
     WorkbenchWindow& window() { return m_visit->window(); }
     InformationModel& model() { return m_visit->model(); }

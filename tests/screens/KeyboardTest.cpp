@@ -113,10 +113,7 @@ private:
         if (focused->inherits("Pressable") && !hasRing(focused)) {
             m_faults.append(u"no ring: "_qs + ScreenReader::name(focused));
         }
-        const auto* pane = focused->parentItem();
-        while (pane && !pane->inherits("QQuickFlickable")) {
-            pane = pane->parentItem();
-        }
+        const auto* const pane = ScreenReader::paneAround(focused->parentItem());
         if (!pane) {
             return;
         }

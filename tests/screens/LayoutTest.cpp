@@ -24,14 +24,6 @@ const QQuickItem* layerOf(const QQuickItem* item)
     return layer;
 }
 
-const QQuickItem* flickableAround(const QQuickItem* item)
-{
-    while (item && !isOfClass(item, "QQuickFlickable")) {
-        item = item->parentItem();
-    }
-    return item;
-}
-
 /// Two texts that make up one paragraph stand in each other's box on purpose.
 bool isOneParagraph(QQuickItem* text, QQuickItem* other)
 {
@@ -236,7 +228,7 @@ private:
         if (text->property("truncated").toBool() && !stretched) {
             m_faults.append(u"elided without need: "_qs + told(text));
         }
-        if (!flickableAround(text) &&
+        if (!ScreenReader::paneAround(text) &&
             (rect.top() < -tolerance || rect.bottom() > window.height() + tolerance)) {
             m_faults.append(u"out of reach: "_qs + told(text));
         }

@@ -1,37 +1,7 @@
 #include "LinkOpener.h"
+#include "Browser.h"
 
-#include <QDesktopServices>
 #include <QTest>
-#include <QUrl>
-
-/// Stands in for the browser.
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public:
-    Browser()
-    {
-        for (const auto& scheme : m_schemes) {
-            QDesktopServices::setUrlHandler(scheme, this, "take");
-        }
-    }
-
-    ~Browser() override
-    {
-        for (const auto& scheme : m_schemes) {
-            QDesktopServices::unsetUrlHandler(scheme);
-        }
-    }
-
-    QList<QUrl> opened;
-
-public Q_SLOTS:
-    void take(const QUrl& url) { opened.append(url); }
-
-private:
-    const QStringList m_schemes{u"http"_qs, u"https"_qs, u"file"_qs, u"mailto"_qs};
-};
 
 class LinkOpenerTest : public QObject
 {
@@ -56,7 +26,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, address);
         QFETCH(const bool, opens);
-        const Browser browser;
+        const Browser browser({u"file"_qs, u"mailto"_qs});
         LinkOpener::open(address);
         QCOMPARE(browser.opened, opens ? QList{QUrl(address)} : QList<QUrl>());
     }

@@ -166,8 +166,9 @@ inline void fill(SampleModel& sample)
         sample.selectionDays.append({u"on "_qs + text, {text, u"wordy"_qs}, 0});
     }
     for (int i = 0; i < many; ++i) {
-        sample.selectionDays.append(
-            {u"2026-08-%1"_qs.arg(24 + i % 7), {u"wordy"_qs, QString::number(i)}, i});
+        sample.selectionDays.append({u"2026-08-%1"_qs.arg(24 + i % 7),
+                                     {i % 100 ? u"s100"_qs : u"wordy"_qs, QString::number(i)},
+                                     i});
     }
 }
 

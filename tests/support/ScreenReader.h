@@ -64,6 +64,15 @@ inline bool isWithin(const QQuickItem* root, const QQuickItem* item)
     return root && item == root;
 }
 
+/// What the item scrolls with, or is; null when it stands still.
+inline QQuickItem* paneAround(QQuickItem* item)
+{
+    while (item && !item->inherits("QQuickFlickable")) {
+        item = item->parentItem();
+    }
+    return item;
+}
+
 /// Where the item is in the window.
 inline QRectF place(const QQuickItem* item)
 {

@@ -1,0 +1,34 @@
+"""A program under a trace of its system calls."""
+
+from pathlib import Path
+
+from commands import succeeds
+from polling import wait_until
+from program import Program
+from world import World
+
+# The tracer is a child of the program, which so keeps its process number.
+START = """#!/bin/sh
+exec strace -D -f -q -y --seccomp-bpf -e trace={calls} -o '{trace}' '{program}'
+"""
+
+
+def can_trace(world: World) -> bool:
+    return succeeds(["strace", "-qq", "-o", "/dev/null", "true"], world.environment)
+
+
+def traced(program: Path, world: World, calls: str) -> tuple[Path, Path]:
+    """A start of the program under a trace of the calls that strace names so, and the file of the
+    trace."""
+    trace = world.folder / "trace"
+    start = world.folder / "traced-start"
+    start.write_text(START.format(calls=calls, trace=trace, program=program))
+    start.chmod(0o700)
+    return start, trace
+
+
+def whole(trace: Path, program: Program) -> str:
+    """The trace of a program that has ended."""
+    ended = f"{program.process.pid} +++ exited with 0 +++"
+    wait_until(lambda: ended in trace.read_text(errors="replace"), "the trace is complete")
+    return trace.read_text(errors="replace")
