@@ -5,6 +5,7 @@
 #include "InformationProjection.h"
 #include "Invariant.h"
 #include "KeptPage.h"
+#include "RowSlices.h"
 #include "SampleModel.h"
 #include "ThreadPage.h"
 #include "TodayPage.h"
@@ -155,8 +156,8 @@ public:
                                           remaining + filtered + 2);
         checkRows(*m_kept.rows(),
                   m_model.keptSignals().size() + m_model.keptCustomSources().size());
-        checkRows(*m_weekly.weeks(), m_model.weeklyWeeks().size());
-        checkRows(*m_archive.days(), m_model.archiveDays().size());
+        checkRows(*m_weekly.rows(), weeklyRows());
+        checkRows(*m_archive.days(), archiveRows());
     }
 
     void openArchiveDay(const QString& date)
@@ -167,6 +168,35 @@ public:
     }
 
 private:
+    static qsizetype slices(qsizetype entries)
+    {
+        return std::max<qsizetype>(1, (entries + RowSlices::longest - 1) / RowSlices::longest);
+    }
+
+    // Each week and its days, a long day in several rows.
+    qsizetype weeklyRows() const
+    {
+        qsizetype rows = 0;
+        for (const auto& week : m_model.weeklyWeeks()) {
+            ++rows;
+            for (const auto& day : week.days) {
+                rows += slices(day.focusSignalIds.size());
+            }
+        }
+        return rows;
+    }
+
+    qsizetype archiveRows() const
+    {
+        qsizetype rows = 0;
+        for (const auto& day : m_model.archiveDays()) {
+            rows += slices(std::ranges::count_if(day.focusSignalIds, [this](const QString& id) {
+                return m_model.signalById(id).has_value();
+            }));
+        }
+        return rows;
+    }
+
     InformationModel& m_model;
     TodayPage m_today;
     KeptPage m_kept;
