@@ -1,5 +1,6 @@
 """A program under a trace of its system calls."""
 
+import re
 from pathlib import Path
 
 from commands import succeeds
@@ -29,6 +30,7 @@ def traced(program: Path, world: World, calls: str) -> tuple[Path, Path]:
 
 def whole(trace: Path, program: Program) -> str:
     """The trace of a program that has ended."""
-    ended = f"{program.process.pid} +++ exited with 0 +++"
-    wait_until(lambda: ended in trace.read_text(errors="replace"), "the trace is complete")
+    # A short process number is filled up with spaces.
+    ended = re.compile(rf"^{program.process.pid} +\+\+\+ exited with 0 ", re.MULTILINE)
+    wait_until(lambda: ended.search(trace.read_text(errors="replace")), "the trace is complete")
     return trace.read_text(errors="replace")
