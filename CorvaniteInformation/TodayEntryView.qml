@@ -74,23 +74,31 @@ FocusScope {
         Optional {
             when: view.row.isOfRail
 
-            RailCardSlice {
+            CardSlice {
                 id: slice
 
-                focus: true
                 width: face.width
+                height: implicitHeight
                 first: view.row.isRailHeading
                 last: view.row.isRailEnd
+                ruled: false
 
-                RailEntryView {
-                    focus: true
-                    width: slice.contentWidth
-                    row: view.row
-                    page: view.page
-                    railStop: view.railStop
-                    onThreadRequested: signalId => view.threadRequested(signalId)
-                    onLineFocused: position => view.railLineFocused(position)
-                    onStepped: by => view.railStepped(by)
+                Column {
+                    x: 21
+                    width: slice.width - 2 * x
+                    topPadding: slice.first ? 20 : 0
+                    bottomPadding: slice.last ? 20 : 0
+
+                    RailEntryView {
+                        focus: true
+                        width: parent.width
+                        row: view.row
+                        page: view.page
+                        railStop: view.railStop
+                        onThreadRequested: signalId => view.threadRequested(signalId)
+                        onLineFocused: position => view.railLineFocused(position)
+                        onStepped: by => view.railStepped(by)
+                    }
                 }
             }
         }
