@@ -1,4 +1,5 @@
 #include "ArchiveDigest.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -101,5 +102,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ArchiveDigestTest)
+TEST_SUBJECT(ArchiveDigestTest)
 #include "ArchiveDigestTest.moc"

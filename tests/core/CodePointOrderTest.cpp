@@ -1,4 +1,5 @@
 #include "CodePointOrder.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -34,5 +35,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(CodePointOrderTest)
+TEST_SUBJECT(CodePointOrderTest)
 #include "CodePointOrderTest.moc"

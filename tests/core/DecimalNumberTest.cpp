@@ -1,4 +1,5 @@
 #include "DecimalNumber.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -40,5 +41,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(DecimalNumberTest)
+TEST_SUBJECT(DecimalNumberTest)
 #include "DecimalNumberTest.moc"

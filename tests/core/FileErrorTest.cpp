@@ -1,4 +1,5 @@
 #include "FileError.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -52,5 +53,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(FileErrorTest)
+TEST_SUBJECT(FileErrorTest)
 #include "FileErrorTest.moc"

@@ -1,4 +1,5 @@
 #include "InformationIntake.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -405,5 +406,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationIntakeTest)
+TEST_SUBJECT(InformationIntakeTest)
 #include "InformationIntakeTest.moc"

@@ -1,4 +1,5 @@
 #include "InformationLane.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -28,5 +29,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationLaneTest)
+TEST_SUBJECT(InformationLaneTest)
 #include "InformationLaneTest.moc"

@@ -3,6 +3,7 @@
 #include "EditedJson.h"
 #include "InformationSeed.h"
 #include "MemoryFileManager.h"
+#include "Subject.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -672,5 +673,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationPackSyncTest)
+TEST_SUBJECT(InformationPackSyncTest)
 #include "InformationPackSyncTest.moc"

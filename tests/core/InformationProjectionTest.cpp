@@ -1,5 +1,6 @@
 #include "InformationProjection.h"
 #include "SampleSignal.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -348,5 +349,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationProjectionTest)
+TEST_SUBJECT(InformationProjectionTest)
 #include "InformationProjectionTest.moc"

@@ -1,4 +1,5 @@
 #include "InformationProjection.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -161,5 +162,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationProjectionTimeTest)
+TEST_SUBJECT(InformationProjectionTimeTest)
 #include "InformationProjectionTimeTest.moc"

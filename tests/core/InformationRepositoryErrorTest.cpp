@@ -1,4 +1,5 @@
 #include "InformationRepositoryError.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -38,5 +39,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationRepositoryErrorTest)
+TEST_SUBJECT(InformationRepositoryErrorTest)
 #include "InformationRepositoryErrorTest.moc"

@@ -2,6 +2,7 @@
 
 #include "InformationPackSync.h"
 #include "SampleSignal.h"
+#include "Subject.h"
 
 #include <QSet>
 #include <QTest>
@@ -194,5 +195,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationSeedTest)
+TEST_SUBJECT(InformationSeedTest)
 #include "InformationSeedTest.moc"

@@ -2,6 +2,7 @@
 
 #include "EditedJson.h"
 #include "SampleSignal.h"
+#include "Subject.h"
 
 #include <QJsonArray>
 #include <QTest>
@@ -234,5 +235,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationSignalCodingTest)
+TEST_SUBJECT(InformationSignalCodingTest)
 #include "InformationSignalCodingTest.moc"

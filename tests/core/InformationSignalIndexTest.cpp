@@ -1,4 +1,5 @@
 #include "InformationSignalIndex.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -65,5 +66,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationSignalIndexTest)
+TEST_SUBJECT(InformationSignalIndexTest)
 #include "InformationSignalIndexTest.moc"

@@ -2,6 +2,7 @@
 
 #include "InformationSourceEntry.h"
 #include "SampleSignal.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -307,5 +308,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationSignalTest)
+TEST_SUBJECT(InformationSignalTest)
 #include "InformationSignalTest.moc"

@@ -1,4 +1,5 @@
 #include "InformationUpdateNotice.h"
+#include "Subject.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -329,5 +330,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationUpdateNoticeTest)
+TEST_SUBJECT(InformationUpdateNoticeTest)
 #include "InformationUpdateNoticeTest.moc"

@@ -1,4 +1,5 @@
 #include "InformationWorkspaceCoding.h"
+#include "Subject.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -351,5 +352,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationWorkspaceCodingTest)
+TEST_SUBJECT(InformationWorkspaceCodingTest)
 #include "InformationWorkspaceCodingTest.moc"

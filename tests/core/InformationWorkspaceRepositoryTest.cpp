@@ -5,6 +5,7 @@
 #include "LocalFileManager.h"
 #include "MemoryFileManager.h"
 #include "SampleSignal.h"
+#include "Subject.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -272,5 +273,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationWorkspaceRepositoryTest)
+TEST_SUBJECT(InformationWorkspaceRepositoryTest)
 #include "InformationWorkspaceRepositoryTest.moc"

@@ -1,5 +1,6 @@
 #include "InformationWorkspace.h"
 #include "SampleSignal.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -226,5 +227,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationWorkspaceTest)
+TEST_SUBJECT(InformationWorkspaceTest)
 #include "InformationWorkspaceTest.moc"

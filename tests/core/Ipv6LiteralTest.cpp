@@ -1,4 +1,5 @@
 #include "Ipv6Literal.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -45,5 +46,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(Ipv6LiteralTest)
+TEST_SUBJECT(Ipv6LiteralTest)
 #include "Ipv6LiteralTest.moc"

@@ -1,4 +1,5 @@
 #include "JsonReader.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -306,5 +307,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(JsonReaderTest)
+TEST_SUBJECT(JsonReaderTest)
 #include "JsonReaderTest.moc"

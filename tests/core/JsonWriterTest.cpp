@@ -1,4 +1,5 @@
 #include "JsonWriter.h"
+#include "Subject.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -94,5 +95,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(JsonWriterTest)
+TEST_SUBJECT(JsonWriterTest)
 #include "JsonWriterTest.moc"

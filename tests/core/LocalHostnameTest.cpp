@@ -1,4 +1,5 @@
 #include "LocalHostname.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -73,5 +74,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(LocalHostnameTest)
+TEST_SUBJECT(LocalHostnameTest)
 #include "LocalHostnameTest.moc"

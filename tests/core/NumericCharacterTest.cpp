@@ -1,4 +1,5 @@
 #include "NumericCharacter.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -44,5 +45,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(NumericCharacterTest)
+TEST_SUBJECT(NumericCharacterTest)
 #include "NumericCharacterTest.moc"

@@ -1,4 +1,5 @@
 #include "OpenableAddress.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -102,5 +103,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(OpenableAddressTest)
+TEST_SUBJECT(OpenableAddressTest)
 #include "OpenableAddressTest.moc"

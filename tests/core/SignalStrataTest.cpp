@@ -1,4 +1,5 @@
 #include "SignalStrata.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -130,5 +131,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(SignalStrataTest)
+TEST_SUBJECT(SignalStrataTest)
 #include "SignalStrataTest.moc"

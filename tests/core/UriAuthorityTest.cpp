@@ -1,4 +1,5 @@
 #include "UriAuthority.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -48,5 +49,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(UriAuthorityTest)
+TEST_SUBJECT(UriAuthorityTest)
 #include "UriAuthorityTest.moc"

@@ -1,4 +1,5 @@
 #include "UriComponents.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -74,5 +75,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(UriComponentsTest)
+TEST_SUBJECT(UriComponentsTest)
 #include "UriComponentsTest.moc"

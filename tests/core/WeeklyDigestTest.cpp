@@ -1,4 +1,5 @@
 #include "WeeklyDigest.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -216,5 +217,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(WeeklyDigestTest)
+TEST_SUBJECT(WeeklyDigestTest)
 #include "WeeklyDigestTest.moc"

@@ -1,4 +1,5 @@
 #include "WellFormedText.h"
+#include "Subject.h"
 
 #include <QTest>
 
@@ -31,5 +32,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(WellFormedTextTest)
+TEST_SUBJECT(WellFormedTextTest)
 #include "WellFormedTextTest.moc"

@@ -1,4 +1,5 @@
 #include "ScreenTour.h"
+#include "Subject.h"
 
 #include <QFile>
 #include <QMetaEnum>
@@ -118,5 +119,5 @@ private:
     QStringList m_incomplete;
 };
 
-QTEST_MAIN(AccessibilityTreeTest)
+TEST_SUBJECT(AccessibilityTreeTest)
 #include "AccessibilityTreeTest.moc"

@@ -1,5 +1,6 @@
 #include "ScreenTour.h"
 #include "SourcesPage.h"
+#include "Subject.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -137,5 +138,5 @@ private:
     QSet<QString> m_shownNow;
 };
 
-QTEST_MAIN(FixedTextsTest)
+TEST_SUBJECT(FixedTextsTest)
 #include "FixedTextsTest.moc"

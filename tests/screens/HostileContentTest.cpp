@@ -3,6 +3,7 @@
 #include "Browser.h"
 #include "InformationSeed.h"
 #include "WorkbenchWindow.h"
+#include "Subject.h"
 
 #include <QNetworkAccessManager>
 #include <QPointer>
@@ -439,5 +440,5 @@ private:
     }
 };
 
-QTEST_MAIN(HostileContentTest)
+TEST_SUBJECT(HostileContentTest)
 #include "HostileContentTest.moc"

@@ -1,5 +1,6 @@
 #include "Browser.h"
 #include "ScreenTour.h"
+#include "Subject.h"
 
 /// The sheet with a signal's whole thread.
 class InformationThreadViewTest : public QObject
@@ -197,5 +198,5 @@ private:
     std::optional<ScreenTour::Visit> m_visit;
 };
 
-QTEST_MAIN(InformationThreadViewTest)
+TEST_SUBJECT(InformationThreadViewTest)
 #include "InformationThreadViewTest.moc"

@@ -3,6 +3,7 @@
 #include "SampleModel.h"
 #include "SiteDocuments.h"
 #include "WorkbenchWindow.h"
+#include "Subject.h"
 
 using Surface = InformationModel::Surface;
 
@@ -415,5 +416,5 @@ private:
     std::optional<WorkbenchWindow> m_window;
 };
 
-QTEST_MAIN(InformationWorkbenchViewTest)
+TEST_SUBJECT(InformationWorkbenchViewTest)
 #include "InformationWorkbenchViewTest.moc"

@@ -1,4 +1,5 @@
 #include "ScreenTour.h"
+#include "Subject.h"
 
 #include <QSet>
 
@@ -162,5 +163,5 @@ private:
     QStringList m_faults;
 };
 
-QTEST_MAIN(KeyboardTest)
+TEST_SUBJECT(KeyboardTest)
 #include "KeyboardTest.moc"

@@ -1,4 +1,5 @@
 #include "ScreenTour.h"
+#include "Subject.h"
 
 #include <QHash>
 
@@ -255,5 +256,5 @@ private:
     QHash<const QQuickItem*, QList<QQuickItem*>> m_texts;
 };
 
-QTEST_MAIN(LayoutTest)
+TEST_SUBJECT(LayoutTest)
 #include "LayoutTest.moc"

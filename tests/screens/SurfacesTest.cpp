@@ -1,6 +1,7 @@
 #include "Browser.h"
 #include "SampleModel.h"
 #include "ScreenReader.h"
+#include "Subject.h"
 
 #include <QQmlEngine>
 #include <QQuickView>
@@ -474,5 +475,5 @@ private:
     QStringList m_warnings;
 };
 
-QTEST_MAIN(SurfacesTest)
+TEST_SUBJECT(SurfacesTest)
 #include "SurfacesTest.moc"

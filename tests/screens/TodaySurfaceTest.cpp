@@ -1,4 +1,5 @@
 #include "ScreenTour.h"
+#include "Subject.h"
 
 /// Today's surface under the reader's hands.
 class TodaySurfaceTest : public QObject
@@ -165,5 +166,5 @@ private:
     std::optional<ScreenTour::Visit> m_visit;
 };
 
-QTEST_MAIN(TodaySurfaceTest)
+TEST_SUBJECT(TodaySurfaceTest)
 #include "TodaySurfaceTest.moc"

@@ -1,0 +1,62 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation.Controls
+
+/// What every button of the program has in common: the rounded ground, the keyboard's ring, the
+/// tooltip, and that a screen reader can press it. Its face is laid out by who derives from it.
+Pressable {
+    id: control
+
+    /// The name for a screen reader.
+    property string text: ""
+    /// A sentence that tells more than the name, shown as a tooltip.
+    property string help: ""
+    property color ground: "transparent"
+    property color outline: "transparent"
+    property real radius: InformationTheme.quietRadius
+    /// The focus ring lies inside the edge.
+    property bool ringInside: false
+
+    Accessible.role: Accessible.Button
+    Accessible.name: control.text
+    Accessible.description: control.help
+    Accessible.onPressAction: if (control.enabled) control.clicked()
+
+    Rectangle {
+        anchors.fill: parent
+        color: control.ground
+        radius: control.radius
+        border.color: control.outline
+
+        Behavior on color {
+            ColorAnimation {
+                duration: InformationTheme.pressDuration
+            }
+        }
+        Behavior on border.color {
+            ColorAnimation {
+                duration: InformationTheme.hoverDuration
+            }
+        }
+    }
+
+    FocusRing {
+        shown: control.visualFocus
+        controlRadius: control.radius
+        inside: control.ringInside
+    }
+
+    // A Loader of 6.4 cannot make a bound component.
+    Repeater {
+        model: control.help !== "" && control.hovered ? 1 : 0
+
+        Item {
+            HelpTip {
+                parent: control
+                text: control.help
+                visible: true
+            }
+        }
+    }
+}

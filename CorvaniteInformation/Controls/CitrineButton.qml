@@ -1,0 +1,13 @@
+import QtQuick
+import CorvaniteInformation.Controls
+
+/// The one primary action of a place.
+LabelButton {
+    implicitHeight: 38
+    leftPadding: 16
+    radius: InformationTheme.citrineRadius
+    textStyle: InformationTheme.citrineLabel
+    tint: enabled ? InformationTheme.citrineInk : InformationTheme.ink3
+    ground: !enabled ? InformationTheme.track : down ? InformationTheme.citrinePressed : InformationTheme.citrine
+    outline: hovered && !down ? InformationTheme.citrineDark : "transparent"
+}

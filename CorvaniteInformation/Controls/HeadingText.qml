@@ -1,0 +1,11 @@
+import QtQuick
+import CorvaniteInformation.Controls
+
+/// A text that a screen reader lists among the headings.
+AppText {
+    textStyle: InformationTheme.title2
+    maximumLineCount: InformationTheme.longestName
+    elide: Text.ElideRight
+
+    Accessible.role: Accessible.Heading
+}

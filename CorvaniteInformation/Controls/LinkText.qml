@@ -1,0 +1,33 @@
+import QtQuick
+import CorvaniteInformation.Controls
+
+/// A link that stands in the text, with an optional icon after it.
+LabelButton {
+    id: control
+
+    property color restTint: InformationTheme.accent
+
+    implicitHeight: Math.max(28, label.implicitHeight)
+    spacing: 4
+    radius: 2
+    textStyle: InformationTheme.small
+    tint: down ? InformationTheme.ink2 : restTint
+    iconSize: 14
+    iconTrails: true
+
+    Accessible.role: Accessible.Link
+
+    Rectangle {
+        parent: control.label
+        anchors.top: parent.baseline
+        anchors.topMargin: 2
+        width: parent.width
+        height: 1
+        visible: control.hovered && !control.down
+        color: control.tint
+    }
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+}

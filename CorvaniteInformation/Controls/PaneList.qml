@@ -1,0 +1,39 @@
+import QtQuick
+import QtQuick.Templates as T
+import CorvaniteInformation.Controls
+
+/// A list that scrolls on its own, by pointer and by the keys that turn pages, its rows made as they
+/// come near.
+ListView {
+    id: list
+
+    /// How far beyond its edges the list holds rows: far enough for the Tab key and a screen reader to
+    /// go on. They are made at once. Rows that a cache buffer makes one by one would stand in no place
+    /// until it is their turn, and are asked for by their old places after the list has shrunk.
+    property int reach: 2400
+
+    readonly property alias scroller: scroller
+
+    boundsBehavior: Flickable.StopAtBounds
+    cacheBuffer: 0
+    clip: true
+    currentIndex: -1
+    displayMarginBeginning: reach
+    displayMarginEnd: reach
+    highlightFollowsCurrentItem: false
+    keyNavigationEnabled: false
+
+    Keys.forwardTo: [scroller]
+
+    T.ScrollBar.vertical: OverlayScrollBar {}
+
+    ReadingOrder {
+        items: list.contentItem
+    }
+
+    PaneScroller {
+        id: scroller
+
+        pane: list
+    }
+}

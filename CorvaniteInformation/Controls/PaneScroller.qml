@@ -1,0 +1,97 @@
+import QtQuick
+import CorvaniteInformation.Controls
+
+/// Scrolls a pane by the keyboard: to what takes the focus in it, and by the keys that turn pages.
+/// The pane forwards its keys here.
+Item {
+    id: scroller
+
+    required property Flickable pane
+
+    readonly property real firstY: pane.originY - pane.topMargin
+    readonly property real lastY: Math.max(firstY, pane.originY + pane.contentHeight + pane.bottomMargin - pane.height)
+    readonly property Item focused: pane.Window.activeFocusItem
+
+    /// The pane shows its beginning.
+    property bool atTop: true
+
+    /// What is kept free above and below the item that is scrolled to.
+    readonly property real air: 16
+    readonly property real line: 48
+    readonly property real leap: pane.height - line
+
+    // What was at its top stays there when the room above it changes.
+    onFirstYChanged: if (atTop)
+        pane.contentY = firstY
+
+    Connections {
+        target: scroller.pane
+
+        function onContentYChanged() {
+            // Not firstY, which may still be due to change.
+            scroller.atTop = scroller.pane.contentY <= scroller.pane.originY - scroller.pane.topMargin;
+        }
+    }
+
+    // A press does not scroll what is under the pointer away.
+    onFocusedChanged: if (holds(focused) && (focused as Pressable)?.visualFocus !== false)
+        reveal(focused, 0, focused.height)
+
+    Keys.onPressed: event => event.accepted = turn(event.key, event.modifiers)
+
+    function holds(item: Item): bool {
+        let ancestor = item;
+        while (ancestor !== null && ancestor !== pane.contentItem)
+            ancestor = ancestor.parent;
+        return ancestor !== null && item !== pane.contentItem;
+    }
+
+    /// Scrolls as little as shows the part of the item from `y` on, its top before its bottom.
+    function reveal(item: Item, y: real, height: real) {
+        const itemTop = item.mapToItem(pane.contentItem, 0, y).y - air;
+        const itemBottom = itemTop + height + 2 * air;
+        if (itemBottom > pane.contentY + pane.height)
+            scrollTo(itemBottom - pane.height);
+        if (itemTop < pane.contentY)
+            scrollTo(itemTop);
+    }
+
+    /// Gives the keyboard's focus to a row, also to one that is far out of sight.
+    function focusRow(view: ListView, index: int) {
+        view.currentIndex = index;
+        view.currentItem.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function scrollTo(y: real) {
+        pane.cancelFlick();
+        pane.contentY = Math.max(firstY, Math.min(lastY, y));
+    }
+
+    function turn(key: int, modifiers: int): bool {
+        switch (key) {
+        case Qt.Key_PageDown:
+            scrollTo(pane.contentY + leap);
+            return true;
+        case Qt.Key_PageUp:
+            scrollTo(pane.contentY - leap);
+            return true;
+        case Qt.Key_Space:
+            scrollTo(pane.contentY + (modifiers & Qt.ShiftModifier ? -leap : leap));
+            return true;
+        case Qt.Key_Down:
+            scrollTo(pane.contentY + line);
+            return true;
+        case Qt.Key_Up:
+            scrollTo(pane.contentY - line);
+            return true;
+        case Qt.Key_Home:
+            scrollTo(firstY);
+            return true;
+        case Qt.Key_End:
+            scrollTo(lastY);
+            return true;
+        default:
+            return false;
+        }
+    }
+}

@@ -1,0 +1,19 @@
+import QtQuick
+
+/// Makes a sheet when it is asked for, and drops it when it has closed.
+Loader {
+    id: loader
+
+    /// Opens the sheet of that file, with these initial properties.
+    function show(file: url, properties: var) {
+        setSource(file, Object.assign({ visible: true }, properties));
+    }
+
+    Connections {
+        target: loader.item as Sheet
+
+        function onClosed() {
+            loader.source = "";
+        }
+    }
+}

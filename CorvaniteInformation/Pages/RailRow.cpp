@@ -1,0 +1,16 @@
+#include "RailRow.h"
+
+#include "RunningNumber.h"
+
+RailRow RailRow::from(const InformationSignal& signal, bool seen, int position)
+{
+    RailRow row;
+    row.signalId = signal.id;
+    row.position = position;
+    row.number = runningNumber(position + 1);
+    row.title = signal.title;
+    row.badge = seen ? u"已看过"_qs : u"新"_qs;
+    row.seen = seen;
+    row.name = u"打开脉络："_qs + signal.title;
+    return row;
+}

@@ -1,0 +1,8 @@
+#include "Program.h"
+#include "QmlModules.h"
+
+int main(int argc, char* argv[])
+{
+    return runProgram(argc, argv, QStringLiteral(CORVANITE_SITE_ORIGIN),
+                      QStringLiteral(CORVANITE_VERSION));
+}

@@ -1,0 +1,81 @@
+#include "Program.h"
+
+#include "AppearancePortal.h"
+#include "NetworkSiteClient.h"
+#include "ProgramParts.h"
+#include "SchemePalette.h"
+#include "WindowActivation.h"
+
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+namespace {
+
+double secondsNow()
+{
+    return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000;
+}
+
+void introduce(const QString& version)
+{
+    QGuiApplication::setApplicationName(u"corvanite-information"_qs);
+    QGuiApplication::setApplicationVersion(version);
+    QGuiApplication::setDesktopFileName(u"example.corvanite.information"_qs);
+    QGuiApplication::setWindowIcon(QIcon(u":/corvanite/icons/app-icon-128.png"_qs));
+}
+
+void chooseTextRendering(double devicePixelRatio)
+{
+    constexpr double nativeTextBelowPixelRatio = 1.5;
+    QQuickWindow::setTextRenderType(devicePixelRatio < nativeTextBelowPixelRatio
+                                        ? QQuickWindow::NativeTextRendering
+                                        : QQuickWindow::QtTextRendering);
+}
+
+} // namespace
+
+int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString& version)
+{
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication application(argc, argv);
+    introduce(version);
+    chooseTextRendering(application.devicePixelRatio());
+
+    AppearancePortal appearance(QDBusConnection::sessionBus());
+    QObject::connect(&appearance, &AppearancePortal::colorSchemeChanged, [](auto colorScheme) {
+        QGuiApplication::setPalette(schemePalette(colorScheme));
+    });
+
+    const auto site = ProductSite::fromOrigin(siteOrigin);
+    if (!site) {
+        qFatal("The program was built for a site that is not secure: %s",
+               qUtf8Printable(siteOrigin));
+    }
+    NetworkSiteClient siteClient(*site, NetworkSiteClient::Limits());
+    ProgramParts parts({.environment = QProcessEnvironment::systemEnvironment(),
+                        .now = secondsNow,
+                        .site = siteClient,
+                        .version = version});
+    if (!parts.model()) {
+        return EXIT_SUCCESS;
+    }
+
+    QQmlApplicationEngine engine;
+    engine.addImportPath(u":/qt/qml"_qs);
+    engine.setInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
+                                 {u"reducedMotion"_qs, appearance.reducedMotion()}});
+    engine.load(
+        QUrl(u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
+    if (engine.rootObjects().isEmpty()) {
+        return EXIT_FAILURE;
+    }
+    auto* const window = qobject_cast<QWindow*>(engine.rootObjects().constFirst());
+    QObject::connect(&appearance, &AppearancePortal::reducedMotionChanged, window,
+                     [window](bool reduced) { window->setProperty("reducedMotion", reduced); });
+    QObject::connect(&parts.instance(), &ProgramInstance::activationRequested, window,
+                     [window] { WindowActivation::bringUp(*window); });
+    return QGuiApplication::exec();
+}

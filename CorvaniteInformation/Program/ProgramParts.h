@@ -1,0 +1,41 @@
+#pragma once
+
+#include "InformationModel.h"
+#include "LocalFileManager.h"
+#include "ProgramInstance.h"
+
+#include <QProcessEnvironment>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+/// The program without its window, as it is put together at every start: the one right to the data
+/// directory, the files, the content, the repository and the model over them.
+class ProgramParts
+{
+public:
+    struct Surroundings
+    {
+        QProcessEnvironment environment;
+        /// Seconds since 1970-01-01T00:00:00Z.
+        std::function<double()> now;
+        /// Outlives the parts.
+        SiteClient& site;
+        /// The program's; empty where it is not known.
+        QString version;
+    };
+
+    explicit ProgramParts(const Surroundings& surroundings);
+
+    const ProgramInstance& instance() const { return m_instance; }
+    /// Nothing for a later start, which should end.
+    InformationModel* model() { return m_model ? &*m_model : nullptr; }
+
+private:
+    const LocalFileManager m_machine;
+    const ProgramInstance m_instance;
+    /// Without a directory where the program must not store.
+    const LocalFileManager m_fileManager;
+    std::optional<InformationModel> m_model;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QtQml/qqmlextensionplugin.h>
+
+// The modules that the window is made of. A program that shows it includes this once.
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_PagesPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_Screens_ArchivePlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_Screens_HandInPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_Screens_KeptPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_Screens_SourcesPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_Screens_ThreadPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_Screens_TodayPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_Screens_WeeklyPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_Screens_WorkbenchPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_StatePlugin)

@@ -1,0 +1,55 @@
+import QtQuick
+import CorvaniteInformation.Pages
+import CorvaniteInformation.State
+
+/// The archive: the index of days, or the page of the selected one.
+FocusScope {
+    id: surface
+
+    required property InformationModel workbench
+
+    /// Where the day that is shown, or was shown last, stands in the index.
+    property int lastPosition: -1
+
+    ArchivePage {
+        id: page
+
+        workbench: surface.workbench
+        onDayChanged: surface.turn()
+    }
+
+    // The focus goes along, and comes back to the day it came from.
+    function turn() {
+        if (page.showsDay)
+            lastPosition = page.dayPosition;
+        if (!activeFocus)
+            return;
+        if (page.showsDay)
+            day.forceActiveFocus();
+        else
+            index.focusRow(lastPosition, Qt.TabFocusReason);
+    }
+
+    ArchiveIndex {
+        id: index
+
+        anchors.fill: parent
+        focus: true
+        visible: !page.showsDay
+        page: page
+    }
+
+    ArchiveDayPage {
+        id: day
+
+        anchors.fill: parent
+        visible: page.showsDay
+        page: page
+    }
+
+    Shortcut {
+        sequence: "Alt+Left"
+        enabled: surface.visible && page.showsDay
+        onActivated: surface.workbench.closeArchiveDay()
+    }
+}

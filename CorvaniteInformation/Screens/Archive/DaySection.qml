@@ -1,0 +1,113 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+
+/// A slice of one day of the archive's index. A press opens the day.
+AppButton {
+    id: section
+
+    required property archiveDayRow row
+
+    signal opened
+
+    implicitHeight: Math.max(date.height, list.height) + 40
+    radius: InformationTheme.cardRadius
+    ringInside: true
+    ground: down ? InformationTheme.well : InformationTheme.card
+    outline: hovered ? InformationTheme.control : InformationTheme.hair
+
+    Accessible.name: section.row.name
+
+    onClicked: section.opened()
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+
+    Column {
+        id: date
+
+        x: 24
+        y: 20
+        width: 112
+
+        HeadingText {
+            width: parent.width
+            text: section.row.monthDay
+            textStyle: InformationTheme.title1
+        }
+
+        Flow {
+            width: parent.width
+            spacing: 8
+
+            AppText {
+                width: Math.min(implicitWidth, parent.width)
+                text: section.row.weekday
+                textStyle: InformationTheme.small
+                color: InformationTheme.ink2
+                maximumLineCount: InformationTheme.longestName
+                elide: Text.ElideRight
+            }
+
+            Tag {
+                visible: section.row.isToday
+                text: "今天"
+                kind: Tag.Running
+            }
+        }
+    }
+
+    Column {
+        id: list
+
+        x: 160
+        y: 20
+        width: parent.width - x - 24
+        spacing: 8
+
+        Column {
+            width: parent.width
+            spacing: 5
+
+            AppText {
+                visible: section.row.opensDay
+                text: "精选："
+                textStyle: InformationTheme.meta
+                color: InformationTheme.ink2
+            }
+
+            Repeater {
+                model: section.row.entries
+
+                ArchiveEntry {
+                    required property archiveEntryRow modelData
+
+                    width: list.width
+                    row: modelData
+                }
+            }
+        }
+
+        Row {
+            visible: section.row.closesDay
+            spacing: 6
+
+            AppText {
+                text: section.row.closing
+                textStyle: InformationTheme.small
+                color: InformationTheme.accent
+                wrapMode: Text.NoWrap
+            }
+
+            Icon {
+                anchors.verticalCenter: parent.verticalCenter
+                path: IconPaths.chevronRight
+                size: 14
+                color: InformationTheme.accent
+            }
+        }
+    }
+}

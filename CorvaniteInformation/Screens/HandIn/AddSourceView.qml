@@ -1,0 +1,26 @@
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.State
+
+/// The sheet in which the reader hands in a link or a sentence.
+Sheet {
+    id: view
+
+    required property InformationModel workbench
+
+    readonly property AddSourceForm form: contentItem as AddSourceForm
+
+    width: 520
+    horizontalPadding: 32
+    verticalPadding: 28
+    title: "交给 Corvanite"
+
+    onAboutToShow: form.begin()
+    onOpened: form.takeFocus()
+
+    contentItem: AddSourceForm {
+        workbench: view.workbench
+        title: view.title
+        onDone: view.close()
+    }
+}

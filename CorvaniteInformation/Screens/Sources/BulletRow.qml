@@ -1,0 +1,36 @@
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+
+/// One outside service and what is collected from it.
+Item {
+    id: bullet
+
+    required property directCollectionItem item
+
+    implicitHeight: text.height
+
+    Icon {
+        y: (InformationTheme.body.lineHeight - height) / 2
+        path: IconPaths.circleFill
+        filled: true
+        size: 8
+        color: InformationTheme.accent
+    }
+
+    AppText {
+        x: 20
+        width: 104
+        text: bullet.item.tag
+        textStyle: InformationTheme.bodyBold
+    }
+
+    AppText {
+        id: text
+
+        x: 136
+        width: parent.width - x
+        text: bullet.item.text
+        color: InformationTheme.ink2
+    }
+}

@@ -1,0 +1,67 @@
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+
+/// One source of the registry.
+Item {
+    id: entry
+
+    required property sourceEntryRow row
+    /// A rule separates the row from the one above.
+    required property bool ruled
+
+    implicitHeight: texts.height + 24
+
+    Rectangle {
+        x: texts.x
+        width: parent.width - x - 24
+        height: 1
+        visible: entry.ruled
+        color: InformationTheme.hair
+    }
+
+    AppText {
+        x: 24
+        y: 14
+        width: 28
+        text: entry.row.number
+        textStyle: InformationTheme.meta
+        color: InformationTheme.ink3
+        wrapMode: Text.NoWrap
+    }
+
+    Column {
+        id: texts
+
+        anchors.left: parent.left
+        anchors.leftMargin: 64
+        anchors.right: home.left
+        anchors.rightMargin: 24
+        y: 12
+
+        AppText {
+            width: parent.width
+            text: entry.row.name
+            textStyle: InformationTheme.bodyBold
+        }
+
+        AppText {
+            width: parent.width
+            text: entry.row.description
+            textStyle: InformationTheme.small
+            color: InformationTheme.ink2
+        }
+    }
+
+    LinkText {
+        id: home
+
+        anchors.right: parent.right
+        anchors.rightMargin: 24
+        y: 10
+        visible: entry.row.address !== ""
+        text: "打开信源主页"
+        Accessible.description: entry.row.name
+        onClicked: LinkOpener.open(entry.row.address)
+    }
+}

@@ -1,0 +1,96 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+import CorvaniteInformation.State
+
+/// The sheet with a signal's whole thread: its main points, how it came to be, further sources, and
+/// for a kept signal the reader's own note.
+Sheet {
+    id: sheet
+
+    required property InformationModel workbench
+    required property string signalId
+
+    readonly property int sideMargin: 32
+
+    width: 640
+    height: Math.min(header.height + body.wholeHeight, parent.height - 72)
+    title: threadPage.title
+
+    onOpened: {
+        threadPage.markSeen();
+        closeButton.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason);
+    }
+
+    ThreadPage {
+        id: threadPage
+
+        workbench: sheet.workbench
+        signalId: sheet.signalId
+    }
+
+    Item {
+        width: sheet.availableWidth
+        height: sheet.availableHeight
+
+        Accessible.role: Accessible.Dialog
+        Accessible.name: sheet.title
+
+        Item {
+            id: header
+
+            width: parent.width
+            height: heading.height
+
+            Column {
+                id: heading
+
+                x: sheet.sideMargin
+                width: closeButton.x - x
+                topPadding: 24
+                bottomPadding: 16
+                spacing: 4
+
+                EyebrowText {
+                    text: "信息脉络"
+                }
+
+                HeadingText {
+                    width: parent.width
+                    text: threadPage.title
+                    textStyle: InformationTheme.title1
+                    maximumLineCount: 3
+                    elide: Text.ElideRight
+                }
+            }
+
+            QuietButton {
+                id: closeButton
+
+                anchors.right: parent.right
+                anchors.rightMargin: sheet.sideMargin - rightPadding
+                y: 24
+                text: "关闭"
+                onClicked: sheet.close()
+            }
+
+            Rectangle {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: 1
+                color: InformationTheme.hair
+            }
+        }
+
+        ThreadBody {
+            id: body
+
+            y: header.height
+            width: parent.width
+            height: parent.height - y
+            page: threadPage
+        }
+    }
+}

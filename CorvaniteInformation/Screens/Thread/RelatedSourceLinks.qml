@@ -1,0 +1,52 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+
+/// A slice of a signal's further sources; the first stands below a rule and a heading.
+Column {
+    id: links
+
+    required property threadRow row
+
+    topPadding: 20
+
+    Optional {
+        when: links.row.first
+
+        Column {
+            width: links.width
+            spacing: 16
+
+            Rectangle {
+                width: parent.width
+                height: 1
+                color: InformationTheme.hair
+            }
+
+            HeadingText {
+                width: parent.width
+                text: "更多原文"
+                textStyle: InformationTheme.smallBold
+            }
+        }
+    }
+
+    Flow {
+        width: parent.width
+        spacing: 20
+
+        Repeater {
+            model: links.row.sources
+
+            SourceLink {
+                required property relatedSourceRow modelData
+
+                width: Math.min(implicitWidth, links.width)
+                text: modelData.label
+                address: modelData.address
+            }
+        }
+    }
+}

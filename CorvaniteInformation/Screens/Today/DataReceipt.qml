@@ -1,0 +1,78 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+
+/// What went into today's selection, in figures.
+Column {
+    id: receipt
+
+    required property TodayPage page
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: InformationTheme.hairStrong
+    }
+
+    Column {
+        topPadding: 16
+        bottomPadding: 8
+
+        HeadingText {
+            text: "数据回执"
+            textStyle: InformationTheme.captionBold
+            color: InformationTheme.ink2
+        }
+    }
+
+    Repeater {
+        model: receipt.page.receiptRows
+
+        Item {
+            id: figure
+
+            required property dataReceiptRow modelData
+
+            width: receipt.width
+            height: 26
+
+            Accessible.role: Accessible.StaticText
+            Accessible.name: figure.modelData.text
+
+            AppText {
+                id: value
+
+                width: Math.max(36, implicitWidth)
+                text: figure.modelData.value
+                textStyle: InformationTheme.figure
+                horizontalAlignment: Text.AlignRight
+                wrapMode: Text.NoWrap
+                Accessible.ignored: true
+            }
+
+            AppText {
+                anchors.baseline: value.baseline
+                x: value.width + 8
+                text: figure.modelData.label
+                textStyle: InformationTheme.small
+                color: InformationTheme.ink2
+                wrapMode: Text.NoWrap
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    Column {
+        width: parent.width
+        topPadding: 8
+
+        AppText {
+            width: parent.width
+            text: receipt.page.updatedText
+            textStyle: InformationTheme.caption
+            color: InformationTheme.ink3
+        }
+    }
+}

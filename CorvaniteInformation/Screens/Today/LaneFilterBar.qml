@@ -1,0 +1,56 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+
+/// The chips that choose which lane today's lists show. The arrow keys choose the neighbours.
+Flow {
+    id: bar
+
+    required property TodayPage page
+
+    spacing: 6
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: caption.text
+
+    Item {
+        width: caption.implicitWidth + 2
+        height: 28
+
+        AppText {
+            id: caption
+
+            anchors.verticalCenter: parent.verticalCenter
+            text: "筛选："
+            textStyle: InformationTheme.caption
+            color: InformationTheme.ink3
+            wrapMode: Text.NoWrap
+        }
+    }
+
+    Repeater {
+        id: chips
+
+        model: bar.page.lanes
+
+        Chip {
+            required property laneChipRow row
+            required property int index
+
+            text: row.text
+            square: row.square
+            selected: row.selected
+            onClicked: bar.page.selectLane(row.lane)
+            Keys.onLeftPressed: bar.choose(index - 1)
+            Keys.onRightPressed: bar.choose(index + 1)
+        }
+    }
+
+    function choose(index: int) {
+        const chip = chips.itemAt(index) as Chip;
+        chip?.forceActiveFocus(Qt.TabFocusReason);
+        chip?.clicked();
+    }
+}

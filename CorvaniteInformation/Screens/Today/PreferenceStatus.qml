@@ -1,0 +1,43 @@
+import QtQuick
+import CorvaniteInformation.Controls
+
+/// Says how the reader's feedback has adjusted the selection, and takes the adjustment back.
+Item {
+    id: status
+
+    required property string text
+
+    signal resetPressed
+
+    implicitHeight: Math.max(36, sentence.implicitHeight)
+
+    Icon {
+        id: icon
+
+        anchors.verticalCenter: parent.verticalCenter
+        path: IconPaths.sliderHorizontal3
+    }
+
+    AppText {
+        id: sentence
+
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.left: icon.right
+        anchors.leftMargin: 8
+        anchors.right: reset.left
+        text: status.text
+        textStyle: InformationTheme.small
+        color: InformationTheme.ink2
+    }
+
+    QuietButton {
+        id: reset
+
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.right: parent.right
+        anchors.rightMargin: -rightPadding
+        text: "重置调整"
+        restTint: InformationTheme.accent
+        onClicked: status.resetPressed()
+    }
+}

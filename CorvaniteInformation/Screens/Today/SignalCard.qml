@@ -1,0 +1,38 @@
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+
+/// One signal of today's lists with the reader's answers to it. A press anywhere else opens its
+/// thread.
+AppButton {
+    id: card
+
+    required property signalCardRow row
+
+    signal keepToggled
+    signal similarReduced
+
+    implicitHeight: face.implicitHeight + 48
+    radius: InformationTheme.cardRadius
+    ringInside: true
+    ground: down ? InformationTheme.well : InformationTheme.card
+    outline: hovered ? InformationTheme.control : InformationTheme.hair
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: card.row.title
+    Accessible.description: card.row.description
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+
+    SignalCardFace {
+        id: face
+
+        anchors.fill: parent
+        anchors.margins: 24
+        row: card.row
+        onKeepToggled: card.keepToggled()
+        onSimilarReduced: card.similarReduced()
+    }
+}

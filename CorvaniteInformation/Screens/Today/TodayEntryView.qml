@@ -1,0 +1,107 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+
+/// One place of the today surface's column, in the face of its kind.
+FocusScope {
+    id: view
+
+    required property todayEntry row
+    required property TodayPage page
+    required property real columnWidth
+    required property int railStop
+
+    signal threadRequested(signalId: string)
+    signal similarReduced(signalId: string)
+    signal railLineFocused(position: int)
+    signal railStepped(by: int)
+
+    implicitHeight: face.height
+
+    Column {
+        id: face
+
+        x: Math.round((view.width - width) / 2)
+        topPadding: view.row.isRailHeading ? 16 : 0
+        width: view.columnWidth
+
+        Optional {
+            when: view.row.isIntro
+
+            TodayIntro {
+                width: face.width
+                bottomPadding: 20
+                page: view.page
+            }
+        }
+
+        Optional {
+            when: view.row.isCard
+
+            Column {
+                width: face.width
+                bottomPadding: 16
+
+                SignalCard {
+                    focus: true
+                    width: parent.width
+                    row: view.row.card
+                    onClicked: view.threadRequested(row.signalId)
+                    onKeepToggled: view.page.workbench.toggleKeep(row.signalId)
+                    onSimilarReduced: view.similarReduced(row.signalId)
+                }
+            }
+        }
+
+        Optional {
+            when: view.row.isDisclosure
+
+            Column {
+                width: face.width
+                bottomPadding: 16
+
+                DisclosureRow {
+                    width: parent.width
+                    text: view.page.remainingTitle
+                    note: "需要时再展开，不会丢失。"
+                    open: view.page.showingRemaining
+                    onClicked: view.page.showingRemaining = !view.page.showingRemaining
+                }
+            }
+        }
+
+        Optional {
+            when: view.row.isOfRail
+
+            CardSlice {
+                id: slice
+
+                width: face.width
+                height: implicitHeight
+                first: view.row.isRailHeading
+                last: view.row.isRailEnd
+                ruled: false
+
+                Column {
+                    x: 21
+                    width: slice.width - 2 * x
+                    topPadding: slice.first ? 20 : 0
+                    bottomPadding: slice.last ? 20 : 0
+
+                    RailEntryView {
+                        focus: true
+                        width: parent.width
+                        row: view.row
+                        page: view.page
+                        railStop: view.railStop
+                        onThreadRequested: signalId => view.threadRequested(signalId)
+                        onLineFocused: position => view.railLineFocused(position)
+                        onStepped: by => view.railStepped(by)
+                    }
+                }
+            }
+        }
+    }
+}

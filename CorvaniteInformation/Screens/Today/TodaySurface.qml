@@ -1,0 +1,86 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
+import CorvaniteInformation.State
+
+/// What to read today: a column of cards and, beside it or below, the list of everything.
+FocusScope {
+    id: surface
+
+    required property InformationModel workbench
+
+    signal threadRequested(signalId: string)
+
+    // Without a width yet, as in the window's usual one: what is laid out twice jumps.
+    readonly property bool twoPanes: width === 0 || width >= 980
+    readonly property bool wide: width >= 1440
+    readonly property int railWidth: !twoPanes ? 0 : wide ? 360 : 304
+
+    /// The line of the list of everything at which the Tab key stops.
+    property int railLine: 0
+    readonly property int railStop: Math.min(railLine, todayPage.railCount - 1)
+
+    /// The card goes; where the keyboard was on it, it goes on with what takes the card's place.
+    function reduce(signalId: string, index: int) {
+        const byKeyboard = (surface.Window.activeFocusItem as Pressable)?.visualFocus ?? false;
+        surface.workbench.reduceSimilar(signalId);
+        if (byKeyboard)
+            column.scroller.focusRow(column, Math.min(index, column.count - 1));
+    }
+
+    Window.onActiveChanged: if (Window.active)
+        todayPage.refresh()
+
+    TodayPage {
+        id: todayPage
+
+        workbench: surface.workbench
+        railBelow: !surface.twoPanes
+        receiptPinned: true
+    }
+
+    PaneList {
+        id: column
+
+        readonly property real columnWidth: Math.min(surface.wide ? 760 : 720, width - 48)
+
+        width: surface.width - surface.railWidth
+        height: parent.height
+        topMargin: surface.wide ? 40 : surface.twoPanes ? 32 : 24
+        bottomMargin: surface.twoPanes ? 24 : 32
+        focus: true
+        model: todayPage.entries
+
+        Accessible.role: Accessible.List
+        Accessible.name: todayPage.title
+
+        delegate: TodayEntryView {
+            required property int index
+
+            width: column.width
+            columnWidth: column.columnWidth
+            page: todayPage
+            railStop: surface.railStop
+            onThreadRequested: signalId => surface.threadRequested(signalId)
+            onSimilarReduced: signalId => surface.reduce(signalId, index)
+            onRailLineFocused: position => surface.railLine = position
+            onRailStepped: by => column.scroller.focusRow(column, index + by)
+        }
+    }
+
+    Optional {
+        when: surface.twoPanes
+
+        TodayRail {
+            x: column.width
+            width: surface.railWidth
+            height: surface.height
+            page: todayPage
+            railStop: surface.railStop
+            onThreadRequested: signalId => surface.threadRequested(signalId)
+            onLineFocused: position => surface.railLine = position
+        }
+    }
+}

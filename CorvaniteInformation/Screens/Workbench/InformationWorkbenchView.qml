@@ -1,0 +1,181 @@
+pragma ComponentBehavior: Bound
+
+import QtQml
+import QtQuick
+import QtQuick.Window
+import CorvaniteInformation.Controls
+import CorvaniteInformation.State
+
+/// The program's window: header, the surface chosen, footer, and over them the receipt bar and the
+/// error alert.
+Window {
+    id: window
+
+    required property InformationModel workbench
+    /// The desktop's own animations are off.
+    required property bool reducedMotion
+
+    width: 1120
+    height: 780
+    minimumWidth: 720
+    minimumHeight: 560
+    visible: true
+    title: "Corvanite Information"
+    flags: Qt.Window | Qt.FramelessWindowHint
+    color: InformationTheme.canvas
+
+    // After the first frame, which nothing may delay; the model sees to it that it happens once.
+    onFrameSwapped: workbench.probeAppUpdateOnce()
+
+    function openThread(signalId: string) {
+        sheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench, signalId });
+    }
+
+    function openHandIn() {
+        sheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench });
+    }
+
+    FocusScope {
+        id: page
+
+        anchors.fill: parent
+        focus: true
+
+        UpdateBanner {
+            id: banner
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            window: window
+            workbench: window.workbench
+        }
+
+        WorkbenchHeader {
+            id: header
+
+            anchors.top: banner.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            window: window
+            workbench: window.workbench
+            surfaces: [
+                SurfaceEntry {
+                    surface: InformationModel.Today
+                    label: "今天"
+                    iconPath: IconPaths.sparkles
+                },
+                SurfaceEntry {
+                    surface: InformationModel.Kept
+                    label: "已收下"
+                    iconPath: IconPaths.squareStack
+                },
+                SurfaceEntry {
+                    surface: InformationModel.Weekly
+                    label: "周报"
+                    iconPath: IconPaths.calendar
+                },
+                SurfaceEntry {
+                    surface: InformationModel.Archive
+                    label: "往期"
+                    iconPath: IconPaths.clockArrowCirclepath
+                },
+                SurfaceEntry {
+                    surface: InformationModel.Sources
+                    label: "信源"
+                    iconPath: IconPaths.antennaRadiowavesLeftAndRight
+                }
+            ]
+            onHandInRequested: window.openHandIn()
+        }
+
+        WorkbenchSurfaces {
+            id: surfaces
+
+            anchors.top: header.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: footer.top
+            focus: true
+            workbench: window.workbench
+            onThreadRequested: signalId => window.openThread(signalId)
+        }
+
+        SiteFooter {
+            id: footer
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            workbench: window.workbench
+        }
+
+        ReceiptBar {
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: footer.top
+            anchors.bottomMargin: 16
+            workbench: window.workbench
+            maximumWidth: window.width - 48
+        }
+    }
+
+    SheetLoader {
+        id: sheet
+    }
+
+    ErrorAlert {
+        workbench: window.workbench
+    }
+
+    WindowEdges {
+        anchors.fill: parent
+        window: window
+    }
+
+    Binding {
+        target: InformationTheme
+        property: "reducedMotion"
+        value: window.reducedMotion
+    }
+
+    Instantiator {
+        model: header.surfaces
+
+        delegate: Shortcut {
+            required property SurfaceEntry modelData
+            required property int index
+
+            sequence: `Ctrl+${index + 1}`
+            onActivated: {
+                window.workbench.surface = modelData.surface;
+                surfaces.forceActiveFocus(Qt.ShortcutFocusReason);
+            }
+        }
+    }
+
+    Shortcut {
+        sequence: "Ctrl+N"
+        onActivated: window.openHandIn()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+F"
+        onActivated: surfaces.searchKept()
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+R", "F5"]
+        onActivated: window.workbench.refreshPackFromSite()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Z"
+        enabled: window.workbench.canUndo
+        onActivated: window.workbench.undoLastAction()
+    }
+
+    Shortcut {
+        sequence: "Esc"
+        enabled: window.workbench.hasReceipt
+        onActivated: window.workbench.dismissReceipt()
+    }
+}

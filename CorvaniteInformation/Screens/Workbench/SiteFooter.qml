@@ -1,0 +1,135 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import CorvaniteInformation.Controls
+import CorvaniteInformation.State
+
+/// The bottom of the window: where the reader's things are kept, and the links to the site.
+Rectangle {
+    id: footer
+
+    required property InformationModel workbench
+
+    readonly property int sideMargin: width >= 1040 ? 24 : 20
+    readonly property bool oneRow: notes.width + 24 + links.width <= width - 2 * sideMargin
+
+    implicitHeight: oneRow ? 36 : 64
+    color: InformationTheme.canvas
+
+    Accessible.role: Accessible.StatusBar
+
+    component FooterLink: LinkText {
+        textStyle: InformationTheme.caption
+        restTint: InformationTheme.ink2
+    }
+
+    component SurfaceLink: FooterLink {
+        required property int surface
+
+        onClicked: footer.workbench.surface = surface
+    }
+
+    component SiteLink: FooterLink {
+        required property string page
+
+        onClicked: LinkOpener.open(footer.workbench.sitePage(page))
+    }
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: InformationTheme.hair
+    }
+
+    Row {
+        id: notes
+
+        x: footer.sideMargin
+        y: 10
+        spacing: 8
+
+        AppText {
+            text: "收下的内容与偏好保存在当前设备"
+            color: InformationTheme.ink3
+            textStyle: InformationTheme.caption
+            wrapMode: Text.NoWrap
+        }
+
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: syncNote.visible
+            width: 3
+            height: 3
+            radius: 1.5
+            color: InformationTheme.ink3
+        }
+
+        AppText {
+            id: syncNote
+
+            visible: text !== ""
+            text: footer.workbench.packSyncNote
+            color: footer.workbench.packSyncFailed ? InformationTheme.accent : InformationTheme.ink2
+            textStyle: InformationTheme.caption
+            wrapMode: Text.NoWrap
+
+            Accessible.role: Accessible.AlertMessage
+        }
+    }
+
+    Row {
+        id: links
+
+        anchors.right: parent.right
+        anchors.rightMargin: footer.sideMargin
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 4
+        spacing: footer.width >= 980 ? 16 : 12
+
+        Accessible.role: Accessible.Grouping
+        Accessible.name: "站点导航"
+
+        AppText {
+            anchors.verticalCenter: parent.verticalCenter
+            text: "站点导航"
+            color: InformationTheme.ink3
+            textStyle: InformationTheme.caption
+            wrapMode: Text.NoWrap
+        }
+
+        SurfaceLink {
+            text: "往期精选"
+            surface: InformationModel.Archive
+        }
+
+        SurfaceLink {
+            text: "周报精选"
+            surface: InformationModel.Weekly
+        }
+
+        SurfaceLink {
+            text: "信源清单"
+            surface: InformationModel.Sources
+        }
+
+        SiteLink {
+            text: "编辑方法"
+            page: "method"
+        }
+
+        SiteLink {
+            text: "关于"
+            page: "about"
+        }
+
+        SiteLink {
+            text: "管线状态"
+            page: "status"
+        }
+
+        SiteLink {
+            text: "RSS"
+            page: "feed.xml"
+        }
+    }
+}

@@ -1,0 +1,60 @@
+# One room of the house: the folder that calls this as one static library. With QML types it is the
+# QML module of the folder's path too. What it links is all that it may know.
+#
+#   add_room(<target> [SOURCES <file>...] [QML_FILES <file>...] [QML_SINGLETONS <file>...]
+#            [LINKS <library>...] [PRIVATE_LINKS <library>...])
+function(add_room target)
+    cmake_parse_arguments(PARSE_ARGV 1 room "QML_TYPES" ""
+        "SOURCES;QML_FILES;QML_SINGLETONS;LINKS;PRIVATE_LINKS")
+    if(room_QML_TYPES OR room_QML_FILES)
+        add_qml_room(${target})
+    else()
+        add_library(${target} STATIC ${room_SOURCES})
+    endif()
+    target_include_directories(${target} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${target} PUBLIC ${room_LINKS} PRIVATE ${room_PRIVATE_LINKS} project_warnings)
+endfunction()
+
+macro(add_qml_room target)
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${PROJECT_SOURCE_DIR}
+        OUTPUT_VARIABLE room_path)
+    string(REPLACE "/" "." room_uri ${room_path})
+    set_source_files_properties(${room_QML_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+    qt_add_qml_module(${target}
+        URI ${room_uri}
+        VERSION 1.0
+        STATIC
+        RESOURCE_PREFIX /qt/qml
+        IMPORT_PATH ${QT_QML_OUTPUT_DIRECTORY}
+        ${qml_compilation}
+        SOURCES ${room_SOURCES}
+        QML_FILES ${room_QML_FILES} ${room_QML_SINGLETONS}
+    )
+    # The compiler of QML reads the types of every room that this one links.
+    foreach(link IN LISTS room_LINKS)
+        if(TARGET ${link}_qmltyperegistration)
+            add_dependencies(${target} ${link}_qmltyperegistration)
+        endif()
+    endforeach()
+    build_qml_code_together(${target})
+    set_property(GLOBAL APPEND PROPERTY CORVANITE_QML_PLUGINS ${target}plugin)
+endmacro()
+
+# The code that Qt writes for each QML file includes the same large headers, so many such files are
+# compiled as one. It shadows its own parameters; options of a file's own would keep it out of a
+# group, so the code itself says so.
+function(build_qml_code_together target)
+    set(files_a_group 12)
+    get_target_property(code ${target} SOURCES)
+    list(FILTER code INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$")
+    set(count 0)
+    foreach(file IN LISTS code)
+        math(EXPR group "${count} / ${files_a_group}")
+        math(EXPR count "${count} + 1")
+        set_source_files_properties(${file} PROPERTIES UNITY_GROUP qml_${group})
+    endforeach()
+    set_target_properties(${target} PROPERTIES
+        UNITY_BUILD ON
+        UNITY_BUILD_MODE GROUP
+        UNITY_BUILD_CODE_BEFORE_INCLUDE "#pragma GCC diagnostic ignored \"-Wshadow\"")
+endfunction()

@@ -1,0 +1,52 @@
+#include "RailRow.h"
+#include "SampleSignal.h"
+#include "Subject.h"
+
+#include <QTest>
+
+class RailRowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void numbersFromOneInTwoDigits_data()
+    {
+        QTest::addColumn<int>("position");
+        QTest::addColumn<QString>("number");
+
+        QTest::newRow("first") << 0 << u"01"_qs;
+        QTest::newRow("tenth") << 9 << u"10"_qs;
+        QTest::newRow("beyond two digits") << 699 << u"700"_qs;
+    }
+
+    void numbersFromOneInTwoDigits()
+    {
+        QFETCH(int, position);
+
+        const auto row = RailRow::from(sampleSignal(u"a"_qs), false, position);
+
+        QTEST(row.number, "number");
+        QTEST(row.position, "position");
+    }
+
+    void tellsWhetherTheSignalIsNew()
+    {
+        const auto signal = sampleSignal(u"a"_qs);
+
+        QCOMPARE(RailRow::from(signal, false, 0).badge, u"新"_qs);
+        QCOMPARE(RailRow::from(signal, true, 0).badge, u"已看过"_qs);
+        QVERIFY(RailRow::from(signal, true, 0).seen);
+    }
+
+    void namesWhatItOpens()
+    {
+        const auto row = RailRow::from(sampleSignal(u"a"_qs), false, 0);
+
+        QCOMPARE(row.key(), u"a"_qs);
+        QCOMPARE(row.title, u"Title of a"_qs);
+        QCOMPARE(row.name, u"打开脉络：Title of a"_qs);
+    }
+};
+
+TEST_SUBJECT(RailRowTest)
+#include "RailRowTest.moc"

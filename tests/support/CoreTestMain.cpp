@@ -1,0 +1,9 @@
+#include "Subject.h"
+
+#include <QCoreApplication>
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    return Subject::run(argc, argv);
+}

@@ -1,0 +1,9 @@
+#include "Subject.h"
+
+#include <QGuiApplication>
+
+int main(int argc, char* argv[])
+{
+    const QGuiApplication application(argc, argv);
+    return Subject::run(argc, argv);
+}
