@@ -2,11 +2,14 @@
 # QML module of the folder's path too. What it links is all that it may know.
 #
 #   add_room(<target> [SOURCES <file>...] [QML_FILES <file>...] [QML_SINGLETONS <file>...]
-#            [LINKS <library>...] [PRIVATE_LINKS <library>...])
+#            [QML_BASES <module>...] [LINKS <library>...] [PRIVATE_LINKS <library>...])
+#
+# QML_BASES are the modules of the types that those in SOURCES derive from or name; they make the
+# folder a QML module even without QML files.
 function(add_room target)
-    cmake_parse_arguments(PARSE_ARGV 1 room "QML_TYPES" ""
-        "SOURCES;QML_FILES;QML_SINGLETONS;LINKS;PRIVATE_LINKS")
-    if(room_QML_TYPES OR room_QML_FILES)
+    cmake_parse_arguments(PARSE_ARGV 1 room "" ""
+        "SOURCES;QML_FILES;QML_SINGLETONS;QML_BASES;LINKS;PRIVATE_LINKS")
+    if(room_QML_BASES OR room_QML_FILES)
         add_qml_room(${target})
     else()
         add_library(${target} STATIC ${room_SOURCES})
@@ -26,6 +29,7 @@ macro(add_qml_room target)
         STATIC
         RESOURCE_PREFIX /qt/qml
         IMPORT_PATH ${QT_QML_OUTPUT_DIRECTORY}
+        DEPENDENCIES ${room_QML_BASES}
         ${qml_compilation}
         SOURCES ${room_SOURCES}
         QML_FILES ${room_QML_FILES} ${room_QML_SINGLETONS}
