@@ -1,23 +1,24 @@
 #include "DecimalNumber.h"
 
-#include <limits>
+#include <QString>
+
+#include <algorithm>
+
+namespace {
+
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+} // namespace
 
 std::optional<qint64> decimalNumber(QStringView text)
 {
-    constexpr qint64 most = std::numeric_limits<qint64>::max();
-    if (text.isEmpty()) {
+    if (!std::ranges::all_of(text, isDigit)) {
         return std::nullopt;
     }
-    qint64 value = 0;
-    for (const QChar character : text) {
-        if (character < u'0' || character > u'9') {
-            return std::nullopt;
-        }
-        const int digit = character.unicode() - u'0';
-        if (value > (most - digit) / 10) {
-            return std::nullopt;
-        }
-        value = value * 10 + digit;
-    }
-    return value;
+    bool reads = false;
+    const qint64 number = text.toLongLong(&reads);
+    return reads ? std::optional(number) : std::nullopt;
 }

@@ -4,7 +4,6 @@
 #include "DecimalNumber.h"
 #include "Ipv6Literal.h"
 #include "LocalHostname.h"
-#include "UriAuthority.h"
 #include "UriComponents.h"
 
 #include <QRegularExpression>
@@ -35,7 +34,7 @@ constexpr std::array trackingNames{
 struct Address
 {
     UriComponents components;
-    UriAuthority authority;
+    UriComponents::Authority authority;
     QString host;
 };
 
@@ -92,7 +91,8 @@ std::optional<QString> canonicalHost(const QString& text)
 std::optional<Address> addressIn(const QString& text)
 {
     const UriComponents components = UriComponents::of(text);
-    const auto authority = UriAuthority::of(components.authority.value_or(QString()));
+    const auto authority = components.authority ? components.authorityParts()
+                                                : std::optional(UriComponents::Authority());
     const auto host = authority ? canonicalHost(authority->host) : std::nullopt;
     if (!components.scheme || !host) {
         return std::nullopt;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "InformationFileManager.h"
+#include "InformationPackSnapshot.h"
 #include "InformationSignal.h"
-#include "SelectionDay.h"
 
 #include <QByteArray>
 #include <QList>
@@ -11,8 +11,7 @@
 #include <expected>
 #include <optional>
 
-/// Information packs: their format, their validation, and the two files of the live directory.
-/// The formats are described in docs/formats/information-pack.md and retired-signals.md.
+/// Information packs: their validation, and the two files of the live directory.
 namespace InformationPackSync {
 
 inline constexpr QLatin1StringView expectedSchemaVersion("corvanite-public-information-pack-v6");
@@ -20,19 +19,7 @@ inline constexpr QLatin1StringView expectedSchemaVersion("corvanite-public-infor
 inline constexpr qsizetype maximumPackBytes = 1'500'000;
 
 /// A validated pack.
-struct Snapshot
-{
-    QString schemaVersion;
-    QString asOf;
-    qint64 checkedEntryCount;
-    QList<InformationSignal> signals;
-    QList<SelectionDay> selectionDays;
-
-    /// Whether `asOf` sorts strictly after `than`, code point by code point.
-    bool isNewer(QStringView than) const;
-
-    friend bool operator==(const Snapshot&, const Snapshot&) = default;
-};
+using Snapshot = InformationPackSnapshot;
 
 /// Why a document is not a pack.
 struct SyncError
@@ -50,9 +37,6 @@ struct SyncError
 
 /// A pack is accepted whole or rejected whole; the first failing check decides the error.
 std::expected<Snapshot, SyncError> parse(const QByteArray& document);
-
-/// A retired list decoded like the signals of a pack; nothing when it does not decode.
-std::optional<QList<InformationSignal>> parseRetired(const QByteArray& document);
 
 /// Where the live files lie: "Corvanite/Information" in the per-user data directory. Makes nothing.
 std::optional<QString> liveDirectory(const InformationFileManager& fileManager);

@@ -102,8 +102,9 @@ InformationProjection::focusedToday(const QList<InformationSignal>& signals,
     const QList<InformationSignal> candidates = focusCandidates(pool, *asOfMilliseconds);
     const auto featuredDay =
         std::ranges::find(history, beijingDay(*asOfMilliseconds), &SelectionDay::date);
-    const QList<QString> featured =
+    const QList<QString> featuredIds =
         featuredDay == history.end() ? QList<QString>() : featuredDay->focusSignalIds;
+    const QSet<QString> featured(featuredIds.begin(), featuredIds.end());
 
     QList<InformationSignal> picked;
     for (const InformationSignal& signal : candidates) {

@@ -1,5 +1,6 @@
 #include "InformationProjection.h"
 
+#include "DayText.h"
 #include "DecimalNumber.h"
 
 #include <chrono>
@@ -8,27 +9,22 @@ using namespace std::chrono;
 
 namespace {
 
-// "YYYY-MM-DDThh:mm:ss", of which the fields have been checked one by one but not the day against
-// its month.
+// "YYYY-MM-DDThh:mm:ss".
 struct CivilTime
 {
-    int year;
-    int month;
-    int day;
+    sys_days day;
     int hour;
     int minute;
     int second;
 
     double secondsSinceEpoch() const
     {
-        const sys_days monthStart =
-            std::chrono::year{year} / static_cast<unsigned>(month) / std::chrono::day{1};
-        const sys_days date = monthStart + days{day - 1};
-        return static_cast<double>(date.time_since_epoch().count()) * 86400 + hour * 3600 +
+        return static_cast<double>(day.time_since_epoch().count()) * 86400 + hour * 3600 +
                minute * 60 + second;
     }
 };
 
+constexpr qsizetype dayLength = 10;
 constexpr qsizetype civilTimeLength = 19;
 
 bool isDigit(QChar character)
@@ -36,29 +32,26 @@ bool isDigit(QChar character)
     return character >= u'0' && character <= u'9';
 }
 
-std::optional<int> decimalField(QStringView text, int least, int most)
+std::optional<int> decimalField(QStringView text, int most)
 {
     const std::optional<qint64> value = decimalNumber(text);
-    return value && *value >= least && *value <= most ? std::optional(static_cast<int>(*value))
-                                                      : std::nullopt;
+    return value && *value <= most ? std::optional(static_cast<int>(*value)) : std::nullopt;
 }
 
 std::optional<CivilTime> civilTime(QStringView text)
 {
-    if (text.size() != civilTimeLength || text[4] != u'-' || text[7] != u'-' ||
-        (text[10] != u'T' && text[10] != u't') || text[13] != u':' || text[16] != u':') {
+    if (text.size() != civilTimeLength || (text[10] != u'T' && text[10] != u't') ||
+        text[13] != u':' || text[16] != u':') {
         return std::nullopt;
     }
-    const auto year = decimalField(text.first(4), 0, 9999);
-    const auto month = decimalField(text.sliced(5, 2), 1, 12);
-    const auto day = decimalField(text.sliced(8, 2), 1, 31);
-    const auto hour = decimalField(text.sliced(11, 2), 0, 23);
-    const auto minute = decimalField(text.sliced(14, 2), 0, 59);
-    const auto second = decimalField(text.sliced(17, 2), 0, 60);
-    if (!year || !month || !day || !hour || !minute || !second) {
+    const auto day = DayText::read(text.first(dayLength));
+    const auto hour = decimalField(text.sliced(11, 2), 23);
+    const auto minute = decimalField(text.sliced(14, 2), 59);
+    const auto second = decimalField(text.sliced(17, 2), 60);
+    if (!day || !hour || !minute || !second) {
         return std::nullopt;
     }
-    return CivilTime{*year, *month, *day, *hour, *minute, *second};
+    return CivilTime{*day, *hour, *minute, *second};
 }
 
 // The value of "" (none) or "." and at least one digit.
@@ -88,8 +81,8 @@ std::optional<int> offsetSeconds(QStringView text)
     if (text.size() != 6 || (text[0] != u'+' && text[0] != u'-') || text[3] != u':') {
         return std::nullopt;
     }
-    const auto hours = decimalField(text.sliced(1, 2), 0, 23);
-    const auto minutes = decimalField(text.sliced(4, 2), 0, 59);
+    const auto hours = decimalField(text.sliced(1, 2), 23);
+    const auto minutes = decimalField(text.sliced(4, 2), 59);
     if (!hours || !minutes) {
         return std::nullopt;
     }
@@ -107,12 +100,7 @@ std::optional<double> offsetISOSeconds(QStringView text)
     const auto civil = civilTime(text.first(civilTimeLength));
     const auto fractional = fraction(text.sliced(civilTimeLength).chopped(offsetLength));
     const auto offset = offsetSeconds(text.last(offsetLength));
-    if (!civil || !fractional || !offset) {
-        return std::nullopt;
-    }
-    const year_month_day date{year{civil->year}, month(static_cast<unsigned>(civil->month)),
-                              day(static_cast<unsigned>(civil->day))};
-    if (!date.ok()) {
+    if (!civil || !fractional || !offset || DayText::of(civil->day) != text.first(dayLength)) {
         return std::nullopt;
     }
     return civil->secondsSinceEpoch() + *fractional - *offset;
@@ -151,7 +139,5 @@ std::optional<qint64> InformationProjection::isoMilliseconds(QStringView text)
 QString InformationProjection::beijingDay(qint64 milliseconds)
 {
     const sys_time<std::chrono::milliseconds> instant{std::chrono::milliseconds{milliseconds}};
-    const year_month_day date{floor<days>(instant + hours{8})};
-    return QString::asprintf("%04d-%02u-%02u", int{date.year()}, unsigned{date.month()},
-                             unsigned{date.day()});
+    return DayText::of(floor<days>(instant + hours{8}));
 }

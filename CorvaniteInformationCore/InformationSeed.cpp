@@ -1,13 +1,25 @@
 #include "InformationSeed.h"
 
+#include "InformationPackCoding.h"
 #include "InformationPackSync.h"
 #include "JsonReader.h"
 
 #include <QResource>
 
+#include <string_view>
 #include <utility>
 
 namespace {
+
+namespace Key {
+constexpr std::string_view sources = "sources";
+
+constexpr std::string_view id = "id";
+constexpr std::string_view name = "name";
+constexpr std::string_view kind = "kind";
+constexpr std::string_view take = "take";
+constexpr std::string_view url = "url";
+} // namespace Key
 
 struct Edition
 {
@@ -28,7 +40,7 @@ Edition decodeEdition()
     return {
         .pack = InformationPackSync::parse(embeddedFile(u"information-pack.json"_qs)).value(),
         .retiredSignals =
-            InformationPackSync::parseRetired(embeddedFile(u"retired-signals.json"_qs)).value(),
+            InformationPackCoding::decodeRetired(embeddedFile(u"retired-signals.json"_qs)).value(),
         .registrySources =
             InformationSeed::parseRegistry(embeddedFile(u"registry-sources.json"_qs)).value(),
     };
@@ -43,11 +55,11 @@ const Edition& edition()
 InformationSourceEntry readSourceEntry(const JsonReader::Object& object)
 {
     return {
-        .id = object.string("id"),
-        .name = object.string("name"),
-        .kind = object.string("kind"),
-        .take = object.string("take"),
-        .url = object.string("url"),
+        .id = object.string(Key::id),
+        .name = object.string(Key::name),
+        .kind = object.string(Key::kind),
+        .take = object.string(Key::take),
+        .url = object.string(Key::url),
     };
 }
 
@@ -99,7 +111,7 @@ const QList<InformationSourceEntry>& registrySources()
 std::optional<QList<InformationSourceEntry>> parseRegistry(const QByteArray& document)
 {
     JsonReader reader(document);
-    auto entries = reader.root().list("sources", readSourceEntry);
+    auto entries = reader.root().list(Key::sources, readSourceEntry);
     return reader.error() ? std::nullopt : std::optional(std::move(entries));
 }
 

@@ -4,16 +4,30 @@
 #include "FieldHash.h"
 #include "JsonReader.h"
 #include "NumericCharacter.h"
-#include "UriAuthority.h"
 #include "UriComponents.h"
 
 #include <QStringList>
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace {
 
 using ParseError = InformationUpdateNotice::ParseError;
+
+namespace Key {
+constexpr std::string_view schemaVersion = "schemaVersion";
+constexpr std::string_view version = "version";
+constexpr std::string_view build = "build";
+constexpr std::string_view downloadUrl = "downloadUrl";
+constexpr std::string_view sha256 = "sha256";
+constexpr std::string_view sizeBytes = "sizeBytes";
+constexpr std::string_view notes = "notes";
+
+constexpr std::string_view zh = "zh";
+constexpr std::string_view en = "en";
+} // namespace Key
 
 // The document as it stands.
 struct Document
@@ -32,28 +46,32 @@ std::optional<Document> decode(const QByteArray& bytes)
     JsonReader reader(bytes);
     const JsonReader::Object root = reader.root();
     Document document{
-        .schemaVersion = root.optionalString("schemaVersion"),
-        .version = root.optionalString("version"),
-        .build = root.optionalString("build"),
-        .downloadUrl = root.optionalString("downloadUrl"),
-        .sha256 = root.optionalString("sha256"),
-        .sizeBytes = root.optionalInteger("sizeBytes"),
+        .schemaVersion = root.optionalString(Key::schemaVersion),
+        .version = root.optionalString(Key::version),
+        .build = root.optionalString(Key::build),
+        .downloadUrl = root.optionalString(Key::downloadUrl),
+        .sha256 = root.optionalString(Key::sha256),
+        .sizeBytes = root.optionalInteger(Key::sizeBytes),
         .notesZh = std::nullopt,
     };
-    if (const auto notes = root.optionalObject("notes")) {
-        document.notesZh = notes->optionalString("zh");
+    if (const auto notes = root.optionalObject(Key::notes)) {
+        document.notesZh = notes->optionalString(Key::zh);
         // Not shown, but a text like the other.
-        notes->optionalString("en");
+        notes->optionalString(Key::en);
     }
-    return reader.error() ? std::nullopt : std::optional(document);
+    return reader.error() ? std::nullopt : std::optional(std::move(document));
+}
+
+ParseError missing(std::string_view key)
+{
+    return {ParseError::Kind::MissingField, QString(QLatin1StringView(key))};
 }
 
 // Compared as text: a letter's case or an escape makes another host.
 bool isTrusted(const QString& downloadUrl, const QString& allowedHost)
 {
     const UriComponents components = UriComponents::of(downloadUrl);
-    const auto authority =
-        components.authority ? UriAuthority::of(*components.authority) : std::nullopt;
+    const auto authority = components.authorityParts();
     return components.scheme == u"https"_qs && authority && authority->host == allowedHost &&
            QUrl(downloadUrl, QUrl::StrictMode).isValid();
 }
@@ -91,14 +109,14 @@ InformationUpdateNotice::parse(const QByteArray& document, const QString& allowe
             ParseError{ParseError::Kind::WrongSchemaVersion, decoded->schemaVersion});
     }
     if (!versionComponents(decoded->version.value_or(QString()))) {
-        return std::unexpected(ParseError{ParseError::Kind::MissingField, u"version"_qs});
+        return std::unexpected(missing(Key::version));
     }
     const QString downloadUrl = decoded->downloadUrl.value_or(QString());
     if (!isTrusted(downloadUrl, allowedHost)) {
         return std::unexpected(ParseError{ParseError::Kind::UntrustedDownloadURL, downloadUrl});
     }
     if (decoded->sha256.value_or(QString()).isEmpty()) {
-        return std::unexpected(ParseError{ParseError::Kind::MissingField, u"sha256"_qs});
+        return std::unexpected(missing(Key::sha256));
     }
     return InformationUpdateNotice{
         .version = *decoded->version,

@@ -1,15 +1,14 @@
 #include "InformationWorkspaceCoding.h"
 
-#include "InformationProjection.h"
 #include "JsonReader.h"
 #include "JsonWriter.h"
+#include "StampText.h"
 
 #include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
 
-using namespace std::chrono;
 using InformationWorkspaceCoding::DecodingError;
 
 namespace {
@@ -52,42 +51,6 @@ const std::array<std::pair<std::string_view, QStringView>, 13> namesForPeople{{
 // A file without a version is of the oldest form.
 constexpr qint64 versionWithoutKey = 1;
 
-// Overwrites the digits that end at the position; for thousands of dates a save, so by hand.
-void putDigits(QString& text, qsizetype end, int count, unsigned number)
-{
-    for (qsizetype position = end; count > 0; --count) {
-        text[--position] = QChar(u'0' + number % 10);
-        number /= 10;
-    }
-}
-
-// Of a time in the years 0 to 9999.
-QString dateText(sys_seconds time)
-{
-    const sys_days day = floor<days>(time);
-    const year_month_day date{day};
-    const hh_mm_ss clock{time - day};
-    QString text = QStringLiteral("YYYY-MM-DDThh:mm:ssZ");
-    putDigits(text, 4, 4, static_cast<unsigned>(int{date.year()}));
-    putDigits(text, 7, 2, unsigned{date.month()});
-    putDigits(text, 10, 2, unsigned{date.day()});
-    putDigits(text, 13, 2, static_cast<unsigned>(clock.hours().count()));
-    putDigits(text, 16, 2, static_cast<unsigned>(clock.minutes().count()));
-    putDigits(text, 19, 2, static_cast<unsigned>(clock.seconds().count()));
-    return text;
-}
-
-// Only what `dateText` writes.
-std::optional<sys_seconds> dateFromText(const QString& text)
-{
-    const auto time = InformationProjection::fastISOSeconds(text);
-    if (!time) {
-        return std::nullopt;
-    }
-    const sys_seconds date{seconds{static_cast<qint64>(*time)}};
-    return dateText(date) == text ? std::optional(date) : std::nullopt;
-}
-
 QString uuidText(const QUuid& uuid)
 {
     return uuid.toString(QUuid::WithoutBraces).toUpper();
@@ -100,9 +63,9 @@ std::optional<QUuid> uuidFromText(const QString& text)
     return uuidText(uuid) == text.toUpper() ? std::optional(uuid) : std::nullopt;
 }
 
-sys_seconds readDate(const JsonReader::Object& object, std::string_view key)
+std::chrono::sys_seconds readDate(const JsonReader::Object& object, std::string_view key)
 {
-    const auto date = dateFromText(object.string(key));
+    const auto date = StampText::read(object.string(key));
     if (!date) {
         object.refuse(key);
         return {};
@@ -216,7 +179,7 @@ void writeCustomSources(JsonWriter& writer, const QList<CustomInformationSource>
     writer.beginArray();
     for (const CustomInformationSource& source : sources) {
         writer.beginObject();
-        writeText(writer, Key::createdAt, dateText(source.createdAt));
+        writeText(writer, Key::createdAt, StampText::of(source.createdAt));
         writeText(writer, Key::id, uuidText(source.id));
         writeText(writer, Key::input, source.input);
         writer.endObject();
@@ -243,7 +206,7 @@ void writeSaved(JsonWriter& writer, const InformationWorkspace::SavedMap& saved)
         writer.beginObject();
         writeText(writer, Key::note, entry.note);
         writeText(writer, Key::saveReason, entry.saveReason);
-        writeText(writer, Key::savedAt, dateText(entry.savedAt));
+        writeText(writer, Key::savedAt, StampText::of(entry.savedAt));
         writer.endObject();
     }
     writer.endObject();

@@ -1,5 +1,6 @@
 #include "InformationWorkspaceRepository.h"
 
+#include "InformationPackSync.h"
 #include "InformationProjection.h"
 #include "InformationSeed.h"
 #include "InformationSignalIndex.h"
@@ -7,6 +8,7 @@
 #include <QFileInfo>
 
 #include <type_traits>
+#include <utility>
 
 namespace {
 
@@ -18,13 +20,13 @@ constexpr qint64 firstVersionFollowingTargets = 3;
 std::expected<InformationWorkspaceRepository, InformationRepositoryError>
 InformationWorkspaceRepository::live(const InformationFileManager& fileManager)
 {
-    const std::optional<QString> directory = fileManager.applicationSupportDirectory();
+    const std::optional<QString> directory = InformationPackSync::liveDirectory(fileManager);
     if (!directory) {
         return std::unexpected(InformationRepositoryError{
             .kind = InformationRepositoryError::Kind::ApplicationSupportUnavailable});
     }
-    return InformationWorkspaceRepository{
-        .filePath = *directory + QStringLiteral("/Corvanite/Information/workspace-v1.json")};
+    return InformationWorkspaceRepository{.filePath =
+                                              *directory + QStringLiteral("/workspace-v1.json")};
 }
 
 std::expected<InformationWorkspace, InformationWorkspaceRepository::LoadError>
@@ -37,16 +39,16 @@ InformationWorkspaceRepository::load(const InformationFileManager& fileManager) 
     if (!*document) {
         return InformationWorkspace();
     }
-    const auto workspace = InformationWorkspaceCoding::decode(**document);
+    auto workspace = InformationWorkspaceCoding::decode(**document);
     if (!workspace) {
         return std::unexpected(LoadError(workspace.error()));
     }
-    const auto current =
-        migrated(*workspace, InformationSeed::retiredSignals() + InformationSeed::signals());
+    auto current = migrated(*std::move(workspace),
+                            InformationSeed::retiredSignals() + InformationSeed::signals());
     if (!current) {
         return std::unexpected(LoadError(current.error()));
     }
-    return *current;
+    return *std::move(current);
 }
 
 std::expected<void, FileError>

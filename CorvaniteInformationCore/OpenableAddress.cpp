@@ -1,7 +1,6 @@
 #include "OpenableAddress.h"
 
 #include "Ipv6Literal.h"
-#include "UriAuthority.h"
 #include "UriComponents.h"
 
 #include <algorithm>
@@ -40,8 +39,7 @@ bool isHost(const QString& text)
 std::optional<QUrl> OpenableAddress::url(const QString& text)
 {
     const UriComponents components = UriComponents::of(text);
-    const auto authority =
-        components.authority ? UriAuthority::of(*components.authority) : std::nullopt;
+    const auto authority = components.authorityParts();
     if (!components.scheme || !isWebScheme(*components.scheme) || !authority ||
         !isHost(authority->host) || authority->userInfo || hasDeceptiveCharacter(text)) {
         return std::nullopt;

@@ -1,5 +1,7 @@
 #include "UriComponents.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace {
@@ -55,4 +57,18 @@ UriComponents UriComponents::of(const QString& text)
 
     components.path = rest.toString();
     return components;
+}
+
+std::optional<UriComponents::Authority> UriComponents::authorityParts() const
+{
+    static const QRegularExpression pattern(QRegularExpression::anchoredPattern(
+        u"(?:([^@]*)@)?(\\[[^][@]*\\]|[^][:@]*)(?::([0-9]*))?"));
+    const auto match = authority ? pattern.match(*authority) : QRegularExpressionMatch();
+    if (!match.hasMatch()) {
+        return std::nullopt;
+    }
+    const auto group = [&match](int number) {
+        return match.hasCaptured(number) ? std::optional(match.captured(number)) : std::nullopt;
+    };
+    return Authority{group(1), match.captured(2), group(3)};
 }

@@ -8,6 +8,19 @@
 /// https://www.rfc-editor.org/rfc/rfc3986#appendix-B
 struct UriComponents
 {
+    /// https://www.rfc-editor.org/rfc/rfc3986#section-3.2
+    struct Authority
+    {
+        /// Without "@".
+        std::optional<QString> userInfo;
+        /// A name, an IPv4 address, or an address in brackets; its characters are not looked at.
+        QString host;
+        /// Without ":"; ASCII digits, or empty.
+        std::optional<QString> port;
+
+        friend bool operator==(const Authority&, const Authority&) = default;
+    };
+
     /// Without ":"; nothing where the text does not begin with a well-formed scheme.
     std::optional<QString> scheme;
     /// Without "//".
@@ -20,6 +33,10 @@ struct UriComponents
 
     /// Every text has components, and joined again they are the text.
     static UriComponents of(const QString& text);
+
+    /// Nothing without an authority and for one of another shape: with a second "@", a second ":"
+    /// outside of brackets, or a port that is no number.
+    std::optional<Authority> authorityParts() const;
 
     friend bool operator==(const UriComponents&, const UriComponents&) = default;
 };

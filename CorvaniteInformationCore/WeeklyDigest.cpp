@@ -1,7 +1,7 @@
 #include "WeeklyDigest.h"
 
 #include "CodePointOrder.h"
-#include "DecimalNumber.h"
+#include "DayText.h"
 #include "InformationProjection.h"
 
 #include <algorithm>
@@ -12,12 +12,6 @@
 using namespace std::chrono;
 
 namespace {
-
-std::optional<unsigned> dayPiece(QStringView piece, qsizetype length)
-{
-    const auto value = piece.size() == length ? decimalNumber(piece) : std::nullopt;
-    return value ? std::optional(static_cast<unsigned>(*value)) : std::nullopt;
-}
 
 sys_days mondayOf(sys_days date)
 {
@@ -89,20 +83,7 @@ std::optional<QString> WeeklyDigest::sundayOfWeek(QStringView day)
 
 std::optional<sys_days> WeeklyDigest::utcMidnight(QStringView day)
 {
-    const QList<QStringView> pieces = day.split(u'-', Qt::SkipEmptyParts);
-    if (pieces.size() != 3) {
-        return std::nullopt;
-    }
-    const auto year = dayPiece(pieces[0], 4);
-    const auto month = dayPiece(pieces[1], 2);
-    const auto dayOfMonth = dayPiece(pieces[2], 2);
-    if (!year || !month || !dayOfMonth || *month < 1 || *month > 12 || *dayOfMonth < 1 ||
-        *dayOfMonth > 31) {
-        return std::nullopt;
-    }
-    const sys_days monthStart =
-        std::chrono::year{static_cast<int>(*year)} / std::chrono::month{*month} / 1;
-    return monthStart + days{*dayOfMonth - 1};
+    return DayText::read(day);
 }
 
 int WeeklyDigest::isoWeekday(sys_days day)
@@ -112,7 +93,5 @@ int WeeklyDigest::isoWeekday(sys_days day)
 
 QString WeeklyDigest::dayString(sys_days day)
 {
-    const year_month_day date{day};
-    return QString::asprintf("%04d-%02u-%02u", int{date.year()}, unsigned{date.month()},
-                             unsigned{date.day()});
+    return DayText::of(day);
 }

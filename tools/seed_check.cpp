@@ -1,6 +1,7 @@
 // Checks the edition that is compiled in: seed_check PACK RETIRED REGISTRY. Prints what is wrong
 // and ends with 1, which fails the build.
 
+#include "InformationPackCoding.h"
 #include "InformationPackSync.h"
 #include "InformationProjection.h"
 #include "InformationSeed.h"
@@ -140,7 +141,7 @@ int main(int argc, char* argv[])
         return 1;
     }
     const auto pack = InformationPackSync::parse(contents(paths[0]));
-    const auto retired = InformationPackSync::parseRetired(contents(paths[1]));
+    const auto retired = InformationPackCoding::decodeRetired(contents(paths[1]));
     const auto registry = InformationSeed::parseRegistry(contents(paths[2]));
 
     Findings findings;

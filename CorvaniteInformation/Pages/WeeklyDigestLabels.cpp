@@ -2,6 +2,7 @@
 
 #include "ArchiveDigest.h"
 #include "ChineseDate.h"
+#include "DayText.h"
 #include "DecimalNumber.h"
 
 #include <set>
@@ -14,12 +15,12 @@ QString WeeklyDigestLabels::dayLabel(const QString& day)
 
 QString WeeklyDigestLabels::shortRange(const QString& day)
 {
-    const QStringList pieces = day.split(u'-', Qt::SkipEmptyParts);
-    if (pieces.size() != 3) {
+    const auto pieces = DayText::pieces(day);
+    if (!pieces) {
         return day;
     }
-    const auto month = decimalNumber(pieces[1]);
-    const auto dayOfMonth = decimalNumber(pieces[2]);
+    const auto month = decimalNumber(pieces->at(1));
+    const auto dayOfMonth = decimalNumber(pieces->at(2));
     return month && dayOfMonth ? u"%1月%2日"_qs.arg(*month).arg(*dayOfMonth) : day;
 }
 

@@ -1,13 +1,10 @@
 #include "InformationWorkspaceRepository.h"
 
-#include "FileTree.h"
 #include "InformationSeed.h"
-#include "LocalFileManager.h"
 #include "MemoryFileManager.h"
 #include "SampleSignal.h"
 #include "Subject.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -95,20 +92,6 @@ private Q_SLOTS:
 
         QCOMPARE(repository.load(fileManager).value(), sampleWorkspace());
         QCOMPARE(fileManager.folders, QSet<QString>{u"/support/Corvanite/Information"_qs});
-    }
-
-    void onDiskItIsForThisUserOnly()
-    {
-        const QTemporaryDir root;
-        const LocalFileManager fileManager(root.filePath(u"data"_qs));
-        const auto live = InformationWorkspaceRepository::live(fileManager).value();
-
-        QVERIFY(live.save(sampleWorkspace(), fileManager));
-
-        QCOMPARE(live.load(fileManager).value(), sampleWorkspace());
-        QCOMPARE(live.filePath, root.filePath(u"data/Corvanite/Information/workspace-v1.json"_qs));
-        QCOMPARE(modeOf(live.filePath), 0600);
-        QCOMPARE(modeOf(root.filePath(u"data/Corvanite/Information"_qs)), 0700);
     }
 
     void whatCannotBeLoadedStaysAsItIs_data()
@@ -257,19 +240,6 @@ private Q_SLOTS:
         QVERIFY(!saved);
         QCOMPARE(saved.error(), full);
         QCOMPARE(fileManager.files.value(filePath), QByteArray("{}"));
-    }
-
-    void aFolderThatCannotBeMadeFailsTheSave()
-    {
-        const QTemporaryDir root;
-        writeFile(root.filePath(u"data"_qs), "in the way");
-        const LocalFileManager fileManager(root.filePath(u"data"_qs));
-        const auto live = InformationWorkspaceRepository::live(fileManager).value();
-
-        const auto saved = live.save(sampleWorkspace(), fileManager);
-        QVERIFY(!saved);
-        QCOMPARE(saved.error().reason, FileError::Reason::FolderMissing);
-        QCOMPARE(contentOf(root.filePath(u"data"_qs)), QByteArray("in the way"));
     }
 };
 

@@ -29,6 +29,8 @@ private Q_SLOTS:
         QTest::newRow("hundred million") << U'億' << true;
         QTest::newRow("accounting three") << U'叁' << true;
         QTest::newRow("last ideograph") << U'\U0002F890' << true;
+        QTest::newRow("digit of Unicode 15") << U'\U00011F51' << true;
+        QTest::newRow("beyond Unicode") << char32_t{0x110000} << false;
         QTest::newRow("letter") << U'a' << false;
         QTest::newRow("sign") << U'-' << false;
         QTest::newRow("blank") << U' ' << false;

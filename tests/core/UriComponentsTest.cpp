@@ -4,6 +4,7 @@
 #include <QTest>
 
 using OptionalText = std::optional<QString>;
+using Authority = UriComponents::Authority;
 
 class UriComponentsTest : public QObject
 {
@@ -72,6 +73,51 @@ private Q_SLOTS:
         QCOMPARE(components.path, path);
         QCOMPARE(components.query, query);
         QCOMPARE(components.fragment, fragment);
+    }
+
+    void authorityParts_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<std::optional<Authority>>("expected");
+
+        const auto row = [](const QString& text, const std::optional<Authority>& expected) {
+            QTest::newRow(text.isEmpty() ? "empty" : qPrintable(text)) << text << expected;
+        };
+        const OptionalText none;
+        row(u""_qs, Authority{none, u""_qs, none});
+        row(u"h.example"_qs, Authority{none, u"h.example"_qs, none});
+        row(u"h:8443"_qs, Authority{none, u"h"_qs, u"8443"_qs});
+        row(u"h:"_qs, Authority{none, u"h"_qs, u""_qs});
+        row(u":80"_qs, Authority{none, u""_qs, u"80"_qs});
+        row(u"h:99999999999999999999"_qs, Authority{none, u"h"_qs, u"99999999999999999999"_qs});
+        row(u"u@h"_qs, Authority{u"u"_qs, u"h"_qs, none});
+        row(u"u:p@h:1"_qs, Authority{u"u:p"_qs, u"h"_qs, u"1"_qs});
+        row(u"@h"_qs, Authority{u""_qs, u"h"_qs, none});
+        row(u":@h"_qs, Authority{u":"_qs, u"h"_qs, none});
+        row(u"@"_qs, Authority{u""_qs, u""_qs, none});
+        row(u"[::1]"_qs, Authority{none, u"[::1]"_qs, none});
+        row(u"u@[::1]:80"_qs, Authority{u"u"_qs, u"[::1]"_qs, u"80"_qs});
+        row(u"[]"_qs, Authority{none, u"[]"_qs, none});
+        row(u"中文|\\ %"_qs, Authority{none, u"中文|\\ %"_qs, none});
+        for (const QString& malformed :
+             {u"a@b@h"_qs, u"h:1:2"_qs, u"::1"_qs, u"::1]"_qs, u"[::1"_qs, u"[[::1]]"_qs,
+              u"[::1]x"_qs, u"x[::1]"_qs, u"h:x"_qs, u"h:-1"_qs, u"h:+1"_qs, u"h: 1"_qs, u"h:1 "_qs,
+              u"h:１"_qs}) {
+            row(malformed, std::nullopt);
+        }
+    }
+
+    void authorityParts()
+    {
+        QFETCH(QString, text);
+        QFETCH(std::optional<Authority>, expected);
+
+        QCOMPARE(UriComponents::of(u"https://"_qs + text + u"/p?q"_qs).authorityParts(), expected);
+    }
+
+    void withoutAnAuthorityThereAreNoParts()
+    {
+        QCOMPARE(UriComponents::of(u"https:/x"_qs).authorityParts(), std::nullopt);
     }
 };
 

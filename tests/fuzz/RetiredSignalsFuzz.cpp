@@ -1,5 +1,6 @@
 #include "ContentChecks.h"
 #include "FuzzTarget.h"
+#include "InformationPackCoding.h"
 #include "Invariant.h"
 #include "MemoryFileManager.h"
 #include "SampleSignal.h"
@@ -7,7 +8,7 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray document = inputBytes(data, size);
-    const auto retired = InformationPackSync::parseRetired(document);
+    const auto retired = InformationPackCoding::decodeRetired(document);
 
     const QString directory = u"/support/Corvanite/Information"_qs;
     const MemoryFileManager files;

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// Appends the number as "%0<width>d" writes it.
+void appendPadded(QString& text, int number, qsizetype width);
