@@ -442,6 +442,20 @@ void InformationModel::closeArchiveDay()
     setSelectedArchiveDay(std::nullopt);
 }
 
+void InformationModel::openThread(const QString& signalId)
+{
+    assertMainThread();
+    if (signalIndex().contains(signalId)) {
+        setOpenThread(signalId);
+    }
+}
+
+void InformationModel::closeThread()
+{
+    assertMainThread();
+    setOpenThread(std::nullopt);
+}
+
 void InformationModel::dismissReceipt()
 {
     assertMainThread();
@@ -562,6 +576,14 @@ void InformationModel::setSelectedArchiveDay(std::optional<QString> date)
     if (m_selectedArchiveDay != date) {
         m_selectedArchiveDay = std::move(date);
         Q_EMIT selectedArchiveDayChanged();
+    }
+}
+
+void InformationModel::setOpenThread(std::optional<QString> signalId)
+{
+    if (m_openThread != signalId) {
+        m_openThread = std::move(signalId);
+        Q_EMIT openThreadChanged();
     }
 }
 

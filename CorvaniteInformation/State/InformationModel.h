@@ -31,6 +31,8 @@ class InformationModel : public QObject
     QML_UNCREATABLE("The program's entry makes the one model.")
 
     Q_PROPERTY(Surface surface READ surface WRITE setSurface NOTIFY surfaceChanged FINAL)
+    Q_PROPERTY(QString openThreadId READ openThreadId NOTIFY openThreadChanged FINAL)
+    Q_PROPERTY(bool hasOpenThread READ hasOpenThread NOTIFY openThreadChanged FINAL)
     Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged FINAL)
     Q_PROPERTY(QString receipt READ receiptText NOTIFY receiptChanged FINAL)
     Q_PROPERTY(bool hasReceipt READ hasReceipt NOTIFY receiptChanged FINAL)
@@ -78,6 +80,8 @@ public:
 
     Surface surface() const { return m_surface; }
     const std::optional<QString>& selectedArchiveDay() const { return m_selectedArchiveDay; }
+    /// The signal whose thread is open over the surface.
+    const std::optional<QString>& openThread() const { return m_openThread; }
     const QList<InformationSignal>& signals() const { return m_content.signals(); }
     const QList<InformationSignal>& retiredSignals() const { return m_content.retiredSignals(); }
     const QList<SelectionDay>& selectionDays() const { return m_content.selectionDays(); }
@@ -99,6 +103,8 @@ public:
         return m_availableUpdate;
     }
 
+    bool hasOpenThread() const { return m_openThread.has_value(); }
+    QString openThreadId() const { return m_openThread.value_or(QString()); }
     bool hasReceipt() const { return m_receipt.has_value(); }
     QString receiptText() const { return m_receipt.value_or(QString()); }
     bool hasErrorMessage() const { return m_errorMessage.has_value(); }
@@ -171,6 +177,9 @@ public:
     /// Shows the day in the archive when the selection history has it.
     Q_INVOKABLE void openArchiveDay(const QString& date);
     Q_INVOKABLE void closeArchiveDay();
+    /// Opens the thread of a live or retired signal; an unknown id does nothing.
+    Q_INVOKABLE void openThread(const QString& signalId);
+    Q_INVOKABLE void closeThread();
 
     /// Fetches the site's pack and, where it is newer than the content, shows and stores it with
     /// the retired list beside it. Ends by saying in `packSyncNote` how it went; a failure changes
@@ -187,6 +196,7 @@ public:
 Q_SIGNALS:
     void surfaceChanged();
     void selectedArchiveDayChanged();
+    void openThreadChanged();
     /// `signals`, `retiredSignals`, `selectionDays` or `packAsOf`.
     void contentChanged();
     void workspaceChanged();
@@ -217,6 +227,7 @@ private:
     void setErrorMessage(std::optional<QString> message);
     void setIntakeErrorMessage(std::optional<QString> message);
     void setSelectedArchiveDay(std::optional<QString> date);
+    void setOpenThread(std::optional<QString> signalId);
     void setPackSyncNote(std::optional<QString> note);
     void setSyncingPack(bool isSyncingPack);
     void setAvailableUpdate(std::optional<InformationUpdateNotice> notice);
@@ -242,6 +253,7 @@ private:
 
     Surface m_surface = Surface::Today;
     std::optional<QString> m_selectedArchiveDay;
+    std::optional<QString> m_openThread;
     QString m_search;
     std::optional<InformationLane> m_activeLane;
     std::optional<QString> m_errorMessage;
