@@ -183,6 +183,12 @@ normalizeText(const QString& text)
     return NormalizedInformationIntake{Kind::Text, text, u"text:"_qs + text.toLower()};
 }
 
+bool hasIdentity(const QString& input, const QString& identity)
+{
+    const auto intake = InformationIntake::normalize(input);
+    return intake && intake->identity == identity;
+}
+
 } // namespace
 
 std::expected<NormalizedInformationIntake, InformationIntakeFailure>
@@ -206,7 +212,19 @@ bool InformationIntake::contains(const NormalizedInformationIntake& intake,
                                  const QList<CustomInformationSource>& customSources)
 {
     return std::ranges::any_of(customSources, [&intake](const CustomInformationSource& source) {
-        const auto stored = normalize(source.input);
-        return stored && stored->identity == intake.identity;
+        return hasIdentity(source.input, intake.identity);
     });
+}
+
+const InformationSignal* InformationIntake::match(const NormalizedInformationIntake& intake,
+                                                  const QList<InformationSignal>& signals)
+{
+    if (intake.kind != Kind::Url) {
+        return nullptr;
+    }
+    const auto found = std::ranges::find_if(signals, [&intake](const InformationSignal& signal) {
+        return hasIdentity(signal.followTarget.url, intake.identity) ||
+               hasIdentity(signal.originalURL, intake.identity);
+    });
+    return found == signals.end() ? nullptr : &*found;
 }

@@ -2,6 +2,7 @@
 
 #include "CustomInformationSource.h"
 #include "InformationIntakeFailure.h"
+#include "InformationSignal.h"
 #include "NormalizedInformationIntake.h"
 
 #include <QList>
@@ -22,5 +23,10 @@ normalize(const QString& input);
 /// Whether a custom source has the intake's identity.
 bool contains(const NormalizedInformationIntake& intake,
               const QList<CustomInformationSource>& customSources);
+
+/// The first signal whose follow target or original is the intake's address; null without one, and
+/// for a sentence.
+const InformationSignal* match(const NormalizedInformationIntake& intake,
+                               const QList<InformationSignal>& signals);
 
 } // namespace InformationIntake

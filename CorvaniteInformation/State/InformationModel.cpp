@@ -1,12 +1,14 @@
 #include "InformationModel.h"
 
 #include "ArchiveDigest.h"
-#include "CodePointOrder.h"
 #include "InformationIntake.h"
 #include "InformationProjection.h"
 #include "InformationSignalIndex.h"
+#include "TodayFocus.h"
 #include "WellFormedText.h"
+#include "WorkbenchTexts.h"
 
+#include <QPointer>
 #include <QThread>
 
 #include <algorithm>
@@ -14,6 +16,8 @@
 #include <utility>
 
 namespace {
+
+constexpr qsizetype maximumVersionBytes = 256 * 1024;
 
 template <typename T>
 void appendOnce(QList<T>& list, const T& value)
@@ -23,17 +27,13 @@ void appendOnce(QList<T>& list, const T& value)
     }
 }
 
-// The day at UTC+8 of a stamp in whole seconds; empty for any other stamp, so that a pack stamped
-// in milliseconds shows the computed focus, which the remaining list completes.
-QString packDay(const QString& packAsOf)
+template <typename T, typename WorkOut>
+const T& cached(std::optional<T>& cache, WorkOut workOut)
 {
-    constexpr qsizetype wholeSecondsLength = 20;
-    if (packAsOf.size() != wholeSecondsLength) {
-        return {};
+    if (!cache) {
+        cache = workOut();
     }
-    const auto seconds = InformationProjection::fastISOSeconds(packAsOf);
-    return seconds ? InformationProjection::beijingDay(static_cast<qint64>(*seconds) * 1000)
-                   : QString();
+    return *cache;
 }
 
 } // namespace
@@ -41,36 +41,26 @@ QString packDay(const QString& packAsOf)
 InformationModel::InformationModel(Collaborators collaborators, InformationContent content,
                                    std::optional<InformationWorkspaceRepository> repository,
                                    QObject* parent)
-    : QObject(parent), m_collaborators(std::move(collaborators)), m_content(std::move(content))
+    : QObject(parent),
+      m_collaborators(std::move(collaborators)),
+      m_content(std::move(content)),
+      m_threads(signals()),
+      m_journal(std::move(repository), m_collaborators.fileManager)
 {
-    if (!repository) {
-        return;
-    }
-    auto workspace = repository->load(m_collaborators.fileManager);
-    if (workspace) {
-        m_workspace = *std::move(workspace);
-        m_repository = std::move(repository);
-    } else {
-        m_errorMessage = u"已有信息没有被覆盖："_qs + localizedDescription(workspace.error());
-    }
+    m_errorMessage = m_journal.loadFailure();
 }
 
 // Derived reads
 
 const QList<InformationSignal>& InformationModel::visibleSignals() const
 {
-    if (!m_visibleSignalsCache) {
-        m_visibleSignalsCache = InformationProjection::today(signals(), m_workspace);
-    }
-    return *m_visibleSignalsCache;
+    return cached(m_caches.visibleSignals,
+                  [this] { return InformationProjection::today(signals(), workspace()); });
 }
 
 const QHash<QString, InformationSignal>& InformationModel::signalIndex() const
 {
-    if (!m_signalIndexCache) {
-        m_signalIndexCache = indexById(retiredSignals() + signals());
-    }
-    return *m_signalIndexCache;
+    return cached(m_caches.signalIndex, [this] { return indexById(retiredSignals() + signals()); });
 }
 
 std::optional<InformationSignal> InformationModel::signalById(const QString& id) const
@@ -82,18 +72,19 @@ std::optional<InformationSignal> InformationModel::signalById(const QString& id)
 
 const QList<SelectionDay>& InformationModel::archiveDays() const
 {
-    if (!m_archiveDaysCache) {
-        m_archiveDaysCache = ArchiveDigest::daysNewestFirst(selectionDays());
-    }
-    return *m_archiveDaysCache;
+    return cached(m_caches.archiveDays,
+                  [this] { return ArchiveDigest::daysNewestFirst(selectionDays()); });
 }
 
 const QList<WeeklyDigest::Week>& InformationModel::weeklyWeeks() const
 {
-    if (!m_weeklyWeeksCache) {
-        m_weeklyWeeksCache = WeeklyDigest::weeks(selectionDays());
-    }
-    return *m_weeklyWeeksCache;
+    return cached(m_caches.weeklyWeeks, [this] { return WeeklyDigest::weeks(selectionDays()); });
+}
+
+bool InformationModel::isKept(const InformationSignal& signal) const
+{
+    return cached(m_caches.keptTargets, [this] { return m_threads.keptTargets(workspace()); })
+        .contains(signal.followTarget.id);
 }
 
 qsizetype InformationModel::laneAllCount() const
@@ -109,178 +100,106 @@ qsizetype InformationModel::laneCount(InformationLane lane) const
 QList<InformationSignal> InformationModel::laneFilteredSignals() const
 {
     auto filtered = visibleSignals();
-    if (m_activeLane) {
-        filtered.removeIf(
-            [this](const InformationSignal& signal) { return signal.lane != *m_activeLane; });
+    if (const auto lane = activeLane()) {
+        filtered.removeIf([lane](const InformationSignal& signal) { return signal.lane != lane; });
     }
     return filtered;
 }
 
 QList<InformationSignal> InformationModel::focusedSignals() const
 {
-    const auto candidates = laneFilteredSignals();
-    const auto day = std::ranges::find(selectionDays(), packDay(packAsOf()), &SelectionDay::date);
-    if (day != selectionDays().end()) {
-        QList<InformationSignal> featured;
-        for (const QString& id : day->focusSignalIds) {
-            const auto found = std::ranges::find(candidates, id, &InformationSignal::id);
-            if (found != candidates.end()) {
-                featured.append(*found);
-            }
-        }
-        if (!featured.isEmpty()) {
-            return featured;
-        }
-    }
-    return InformationProjection::focusedToday(candidates, m_workspace,
-                                               InformationProjection::defaultFocusLimit, packAsOf(),
-                                               m_collaborators.seedHistory);
+    return TodayFocus::focused(laneFilteredSignals(), workspace(), packAsOf(), selectionDays(),
+                               m_collaborators.seedHistory);
 }
 
 QList<InformationSignal> InformationModel::remainingSignals() const
 {
-    return InformationProjection::remainingToday(laneFilteredSignals(), m_workspace,
-                                                 InformationProjection::defaultFocusLimit,
-                                                 packAsOf(), m_collaborators.seedHistory);
+    return TodayFocus::remaining(laneFilteredSignals(), workspace(), packAsOf(),
+                                 m_collaborators.seedHistory);
 }
 
 qsizetype InformationModel::keptItemCount() const
 {
-    return InformationProjection::kept(signals(), m_workspace).size() +
-           m_workspace.customSources.size();
+    return InformationProjection::kept(signals(), workspace()).size() +
+           workspace().customSources.size();
 }
 
-bool InformationModel::isKept(const InformationSignal& signal) const
-{
-    return m_workspace.following.contains(signal.followTarget.id) && savedEntry(signal);
-}
-
-std::optional<InformationWorkspace::SavedMap::value_type>
+std::optional<KeptThreads::SavedEntry>
 InformationModel::savedEntry(const InformationSignal& signal) const
 {
-    auto latest = m_workspace.saved.end();
-    for (const QString& id : threadIds(signal)) {
-        const auto entry = m_workspace.saved.find(id);
-        if (entry == m_workspace.saved.end()) {
-            continue;
-        }
-        if (latest == m_workspace.saved.end() || entry->second.savedAt > latest->second.savedAt ||
-            (entry->second.savedAt == latest->second.savedAt &&
-             codePointLess(entry->first, latest->first))) {
-            latest = entry;
-        }
-    }
-    return latest == m_workspace.saved.end() ? std::nullopt : std::optional(*latest);
+    return m_threads.savedEntry(workspace(), signal);
 }
 
 QList<InformationSignal> InformationModel::keptSignals() const
 {
-    auto kept = InformationProjection::kept(signals(), m_workspace);
-    const QString query = m_search.trimmed().toLower();
-    if (!query.isEmpty()) {
-        kept.removeIf([this, &query](const InformationSignal& signal) {
-            const auto entry = savedEntry(signal);
-            const QStringList searched{signal.title,
-                                       signal.source,
-                                       signal.followTarget.label,
-                                       signal.followTarget.scope,
-                                       entry ? entry->second.saveReason : signal.why,
-                                       entry ? entry->second.note : QString()};
-            return !searched.join(u' ').toLower().contains(query);
-        });
-    }
-    return kept;
+    return m_threads.found(search(), workspace(),
+                           InformationProjection::kept(signals(), workspace()));
 }
 
 QList<CustomInformationSource> InformationModel::keptCustomSources() const
 {
-    auto sources = m_workspace.customSources;
-    const QString query = m_search.trimmed().toLower();
-    if (!query.isEmpty()) {
-        sources.removeIf([&query](const CustomInformationSource& source) {
-            return !source.input.toLower().contains(query);
-        });
-    }
-    return sources;
+    return KeptThreads::found(search(), workspace().customSources);
 }
 
-// Sentences
-
-QString InformationModel::intakeMessage(InformationIntakeFailure failure)
+QString InformationModel::sitePage(const QString& path) const
 {
-    switch (failure) {
-    case InformationIntakeFailure::Empty:
-        return u"请粘贴一个链接，或写一句想持续更新的内容。"_qs;
-    case InformationIntakeFailure::TooLong:
-        return u"请缩短到 %1 个字以内；只需说清想跟踪什么。"_qs.arg(
-            InformationIntake::maximumInputLength);
-    case InformationIntakeFailure::UnsupportedURL:
-        return u"当前只接收公开 HTTPS 网页；内网、带账号或其他协议不会接入。"_qs;
-    }
-    std::unreachable();
+    return m_collaborators.site.page(path).toString(QUrl::FullyEncoded);
 }
 
-QString InformationModel::keepReceipt(InformationFollowUpdateMode updateMode)
+// What the screens show of the site
+
+std::optional<QString> InformationModel::packSyncNote() const
 {
-    switch (updateMode) {
-    case InformationFollowUpdateMode::VerifiedChange:
-        return u"已收下；后续实质变化会续到同一条脉络。"_qs;
-    case InformationFollowUpdateMode::SnapshotBaseline:
-        return u"已收下；完整核验后的变化会续到同一条脉络。"_qs;
-    case InformationFollowUpdateMode::EditorialWatch:
-        return u"已收下；这个来源尚未接入自动更新，不会冒充已经同步。"_qs;
-    }
-    std::unreachable();
+    return m_refreshOutcome ? std::optional(m_refreshOutcome->note()) : std::nullopt;
+}
+
+bool InformationModel::packSyncFailed() const
+{
+    return m_refreshOutcome && m_refreshOutcome->kind == ContentRefresh::Outcome::Kind::Failed;
+}
+
+QString InformationModel::syncHelp() const
+{
+    return u"从 %1 拉取最新精选内容"_qs.arg(m_collaborators.site.host());
+}
+
+QString InformationModel::availableUpdateText() const
+{
+    const auto& update = availableUpdate();
+    return update ? u"新版本 %1 已发布"_qs.arg(update->version) : QString();
+}
+
+QString InformationModel::availableUpdateHelp() const
+{
+    const auto& update = availableUpdate();
+    return update ? u"获取 Corvanite Information 新版本 %1"_qs.arg(update->version) : QString();
+}
+
+QString InformationModel::availableUpdateAddress() const
+{
+    const auto& update = availableUpdate();
+    return update ? update->downloadURL.toString(QUrl::FullyEncoded) : QString();
 }
 
 // Actions
-
-void InformationModel::setSurface(Surface surface)
-{
-    assertMainThread();
-    if (m_surface != surface) {
-        m_surface = surface;
-        Q_EMIT surfaceChanged();
-    }
-}
-
-void InformationModel::setSearch(const QString& search)
-{
-    assertMainThread();
-    if (m_search != search) {
-        m_search = search;
-        Q_EMIT searchChanged();
-    }
-}
-
-void InformationModel::setActiveLane(std::optional<InformationLane> lane)
-{
-    assertMainThread();
-    if (m_activeLane != lane) {
-        m_activeLane = lane;
-        Q_EMIT activeLaneChanged();
-    }
-}
 
 void InformationModel::toggleKeep(const InformationSignal& signal)
 {
     if (isKept(signal)) {
         removeKept(signal);
-        return;
+    } else {
+        keep(signal);
     }
-    clearUndo();
-    transactUndoable(keepReceipt(signal.followTarget.updateMode), keepMutation(signal));
 }
 
 void InformationModel::removeKept(const InformationSignal& signal)
 {
-    clearUndo();
-    transactUndoable(u"已从工作台移除，并停止继续更新。"_qs, removeKeptMutation(signal));
+    transactUndoable(u"已从工作台移除，并停止继续更新。"_qs,
+                     [&](InformationWorkspace& workspace) { m_threads.remove(workspace, signal); });
 }
 
 void InformationModel::reduceSimilar(const InformationSignal& signal)
 {
-    clearUndo();
     transactUndoable(
         u"已减少“%1”并收起当前这条；重要变化仍会保留。"_qs.arg(displayName(signal.lane)),
         [&signal](InformationWorkspace& workspace) {
@@ -291,39 +210,30 @@ void InformationModel::reduceSimilar(const InformationSignal& signal)
 
 void InformationModel::markSeen(const InformationSignal& signal)
 {
-    if (m_workspace.hasSeen(signal)) {
-        return;
+    if (!workspace().hasSeen(signal)) {
+        transact([&signal](InformationWorkspace& workspace) { workspace.markSeen(signal); },
+                 [this] { m_receipt = std::nullopt; });
     }
-    transact([&signal](InformationWorkspace& workspace) { workspace.markSeen(signal); },
-             [this] { setReceipt(std::nullopt); });
 }
 
 void InformationModel::toggleKeep(const QString& signalId)
 {
-    if (const auto signal = signalById(signalId)) {
-        toggleKeep(*signal);
-    }
+    withSignal(signalId, &InformationModel::toggleKeep);
 }
 
 void InformationModel::removeKept(const QString& signalId)
 {
-    if (const auto signal = signalById(signalId)) {
-        removeKept(*signal);
-    }
+    withSignal(signalId, &InformationModel::removeKept);
 }
 
 void InformationModel::reduceSimilar(const QString& signalId)
 {
-    if (const auto signal = signalById(signalId)) {
-        reduceSimilar(*signal);
-    }
+    withSignal(signalId, &InformationModel::reduceSimilar);
 }
 
 void InformationModel::markSeen(const QString& signalId)
 {
-    if (const auto signal = signalById(signalId)) {
-        markSeen(*signal);
-    }
+    withSignal(signalId, &InformationModel::markSeen);
 }
 
 bool InformationModel::addSource(const QString& input)
@@ -331,52 +241,31 @@ bool InformationModel::addSource(const QString& input)
     assertMainThread();
     const auto intake = InformationIntake::normalize(wellFormedText(input));
     if (!intake) {
-        setIntakeErrorMessage(intakeMessage(intake.error()));
+        m_intakeErrorMessage = WorkbenchTexts::intakeMessage(intake.error());
         return false;
     }
-    setIntakeErrorMessage(std::nullopt);
+    m_intakeErrorMessage = std::nullopt;
 
-    if (const auto* signal = signalMatching(*intake)) {
-        clearUndo();
-        if (isKept(*signal)) {
-            setSurface(Surface::Kept);
-            setReceipt(u"“%1”已经在已收下里。"_qs.arg(signal->followTarget.label));
-            return true;
-        }
-        if (!transactUndoable(keepReceipt(signal->followTarget.updateMode),
-                              keepMutation(*signal))) {
-            return false;
-        }
-        setSurface(Surface::Kept);
-        return true;
+    if (const auto* const signal = InformationIntake::match(*intake, signals())) {
+        return keepMatch(*signal);
     }
-    if (InformationIntake::contains(*intake, m_workspace.customSources)) {
+    if (InformationIntake::contains(*intake, workspace().customSources)) {
         clearUndo();
         setSurface(Surface::Kept);
-        setReceipt(u"这项内容已经在已收下里，没有重复添加。"_qs);
+        m_receipt = u"这项内容已经在已收下里，没有重复添加。"_qs;
         return true;
     }
-    if (m_workspace.customSources.size() >= InformationIntake::maximumCustomSources) {
-        setIntakeErrorMessage(
+    if (workspace().customSources.size() >= InformationIntake::maximumCustomSources) {
+        m_intakeErrorMessage =
             u"当前设备已收下 %1 项自定义内容；先移除不再需要的一项再添加。"_qs.arg(
-                InformationIntake::maximumCustomSources));
+                InformationIntake::maximumCustomSources);
         return false;
     }
-    clearUndo();
-    const CustomInformationSource source{QUuid::createUuid(), intake->value, wholeSecondsNow()};
-    if (!transactUndoable(u"已收下并安全保存在本机；这个来源尚未接入更新，不会冒充已经同步。"_qs,
-                          [&source](InformationWorkspace& workspace) {
-                              workspace.customSources.append(source);
-                          })) {
-        return false;
-    }
-    setSurface(Surface::Kept);
-    return true;
+    return keepCustomSource(intake->value);
 }
 
 void InformationModel::removeSource(const QUuid& id)
 {
-    clearUndo();
     transactUndoable(u"已移除这条内容。"_qs, [&id](InformationWorkspace& workspace) {
         workspace.customSources.removeIf(
             [&id](const CustomInformationSource& source) { return source.id == id; });
@@ -385,7 +274,6 @@ void InformationModel::removeSource(const QUuid& id)
 
 void InformationModel::resetPreferences()
 {
-    clearUndo();
     transactUndoable(u"已重置内容调整。"_qs, [](InformationWorkspace& workspace) {
         workspace.hidden.clear();
         workspace.reducedLanes.clear();
@@ -396,32 +284,17 @@ void InformationModel::updateNote(const QString& signalId, const QString& note)
 {
     clearUndo();
     const auto signal = std::ranges::find(signals(), signalId, &InformationSignal::id);
-    if (signal == signals().end()) {
-        return;
+    if (signal != signals().end()) {
+        transact([&](InformationWorkspace& workspace) {
+            m_threads.writeNote(workspace, *signal, note, wholeSecondsNow());
+        });
     }
-    const auto entry = savedEntry(*signal);
-    transact([this, &signal, &entry, &note](InformationWorkspace& workspace) {
-        if (!entry) {
-            workspace.setKept(true, *signal, wholeSecondsNow());
-        }
-        appendOnce(workspace.following, signal->followTarget.id);
-        const auto saved = workspace.saved.find(entry ? entry->first : signal->id);
-        if (saved != workspace.saved.end()) {
-            saved->second.note = wellFormedText(note);
-        }
-    });
 }
 
 void InformationModel::undoLastAction()
 {
     assertMainThread();
-    if (!m_undoWorkspace) {
-        return;
-    }
-    const bool restored =
-        transact([this](InformationWorkspace& workspace) { workspace = *m_undoWorkspace; },
-                 [this] { setReceipt(u"已撤销上一步操作。"_qs); });
-    if (restored) {
+    if (canUndo() && transact(m_journal.undo(), [this] { m_receipt = u"已撤销上一步操作。"_qs; })) {
         clearUndo();
     }
 }
@@ -429,203 +302,168 @@ void InformationModel::undoLastAction()
 void InformationModel::openArchiveDay(const QString& date)
 {
     assertMainThread();
-    if (std::ranges::find(selectionDays(), date, &SelectionDay::date) == selectionDays().end()) {
-        return;
+    if (std::ranges::find(selectionDays(), date, &SelectionDay::date) != selectionDays().end()) {
+        setSurface(Surface::Archive);
+        m_selectedArchiveDay = date;
     }
-    setSurface(Surface::Archive);
-    setSelectedArchiveDay(date);
-}
-
-void InformationModel::closeArchiveDay()
-{
-    assertMainThread();
-    setSelectedArchiveDay(std::nullopt);
 }
 
 void InformationModel::openThread(const QString& signalId)
 {
     assertMainThread();
     if (signalIndex().contains(signalId)) {
-        setOpenThread(signalId);
+        m_openThread = signalId;
     }
 }
 
-void InformationModel::closeThread()
+// Refresh and probe
+
+void InformationModel::refreshPackFromSite()
 {
     assertMainThread();
-    setOpenThread(std::nullopt);
+    if (!isSyncingPack()) {
+        refreshPack();
+    }
 }
 
-void InformationModel::dismissReceipt()
+QCoro::Task<> InformationModel::refreshPack()
 {
-    assertMainThread();
-    setReceipt(std::nullopt);
+    const QPointer<InformationModel> self(this);
+    m_isSyncingPack = true;
+    if (std::exchange(m_refreshOutcome, std::nullopt)) {
+        Q_EMIT packSyncNoteChanged();
+    }
+
+    auto result = co_await ContentRefresh::run(self.data(), m_collaborators.site,
+                                               m_collaborators.fileManager, m_content);
+    if (!self) {
+        co_return;
+    }
+    m_refreshOutcome = result.outcome;
+    if (result.content) {
+        m_content = *std::move(result.content);
+        m_threads = KeptThreads(signals());
+        m_caches = {};
+        Q_EMIT contentChanged();
+    }
+    Q_EMIT packSyncNoteChanged();
+    m_isSyncingPack = false;
 }
 
-void InformationModel::dismissError()
+void InformationModel::probeAppUpdateOnce()
 {
     assertMainThread();
-    setErrorMessage(std::nullopt);
+    if (!std::exchange(m_updateProbeRan, true) && !m_collaborators.runningVersion.isEmpty()) {
+        probeAppUpdate();
+    }
 }
 
-void InformationModel::dismissIntakeError()
+QCoro::Task<> InformationModel::probeAppUpdate()
 {
-    assertMainThread();
-    setIntakeErrorMessage(std::nullopt);
-}
-
-void InformationModel::dismissUpdate()
-{
-    assertMainThread();
-    setAvailableUpdate(std::nullopt);
+    const QPointer<InformationModel> self(this);
+    const auto answer =
+        co_await m_collaborators.site.get(SiteClient::appVersionPath, maximumVersionBytes);
+    if (!self || !answer || !answer->isDocument()) {
+        co_return;
+    }
+    const auto notice = InformationUpdateNotice::parse(answer->body, m_collaborators.site.host());
+    if (notice &&
+        InformationUpdateNotice::isNewer(notice->version, m_collaborators.runningVersion)) {
+        m_availableUpdate = *notice;
+    }
 }
 
 // Transactions
 
-bool InformationModel::transact(const Mutation& mutation, const std::function<void()>& announce)
+bool InformationModel::transact(const WorkspaceJournal::Change& change,
+                                const std::function<void()>& announce)
 {
     assertMainThread();
-    const InformationWorkspace previous = m_workspace;
-    InformationWorkspace changed = previous;
-    mutation(changed);
-    setWorkspace(std::move(changed));
+    m_journal.apply(change);
+    announceWorkspace();
     announce();
-
-    QString failure;
-    if (!m_repository) {
-        failure = u"没有可用的本机存储；这次操作没有保存。"_qs;
-    } else if (const auto saved = m_repository->save(m_workspace, m_collaborators.fileManager);
-               !saved) {
-        failure = u"没有保存这次操作："_qs + saved.error().localizedDescription();
-    } else {
-        return true;
+    const auto stored = m_journal.store();
+    if (!stored) {
+        announceWorkspace();
+        m_receipt = std::nullopt;
+        m_errorMessage = stored.error();
     }
-    setWorkspace(previous);
-    setReceipt(std::nullopt);
-    setErrorMessage(failure);
-    return false;
+    return stored.has_value();
 }
 
-bool InformationModel::transactUndoable(const QString& receipt, const Mutation& mutation)
+bool InformationModel::transactUndoable(const QString& receipt,
+                                        const WorkspaceJournal::Change& change)
 {
-    const InformationWorkspace previous = m_workspace;
-    if (!transact(mutation, [this, &receipt] { setReceipt(receipt); })) {
-        return false;
+    clearUndo();
+    const bool stored = transact(change, [this, &receipt] { m_receipt = receipt; });
+    if (stored) {
+        changeUndo([this] { m_journal.keepUndo(); });
     }
-    setUndoWorkspace(previous);
-    return true;
+    return stored;
 }
 
-InformationModel::Mutation InformationModel::keepMutation(const InformationSignal& signal) const
+void InformationModel::announceWorkspace()
 {
-    const bool hasEntry = savedEntry(signal).has_value();
-    return [signal, hasEntry, at = wholeSecondsNow()](InformationWorkspace& workspace) {
-        if (hasEntry) {
-            appendOnce(workspace.following, signal.followTarget.id);
-        } else {
-            workspace.setKept(true, signal, at);
-        }
-    };
-}
-
-InformationModel::Mutation
-InformationModel::removeKeptMutation(const InformationSignal& signal) const
-{
-    return [target = signal.followTarget.id,
-            ids = threadIds(signal)](InformationWorkspace& workspace) {
-        for (const QString& id : ids) {
-            workspace.saved.erase(id);
-        }
-        workspace.following.removeAll(target);
-    };
-}
-
-void InformationModel::setWorkspace(InformationWorkspace workspace)
-{
-    m_workspace = std::move(workspace);
-    dropCaches();
+    m_caches = {};
     Q_EMIT workspaceChanged();
 }
 
-void InformationModel::setReceipt(std::optional<QString> receipt)
-{
-    if (m_receipt != receipt) {
-        m_receipt = std::move(receipt);
-        Q_EMIT receiptChanged();
-    }
-}
-
-void InformationModel::setErrorMessage(std::optional<QString> message)
-{
-    if (m_errorMessage != message) {
-        m_errorMessage = std::move(message);
-        Q_EMIT errorMessageChanged();
-    }
-}
-
-void InformationModel::setIntakeErrorMessage(std::optional<QString> message)
-{
-    if (m_intakeErrorMessage != message) {
-        m_intakeErrorMessage = std::move(message);
-        Q_EMIT intakeErrorMessageChanged();
-    }
-}
-
-void InformationModel::setSelectedArchiveDay(std::optional<QString> date)
-{
-    if (m_selectedArchiveDay != date) {
-        m_selectedArchiveDay = std::move(date);
-        Q_EMIT selectedArchiveDayChanged();
-    }
-}
-
-void InformationModel::setOpenThread(std::optional<QString> signalId)
-{
-    if (m_openThread != signalId) {
-        m_openThread = std::move(signalId);
-        Q_EMIT openThreadChanged();
-    }
-}
-
-void InformationModel::setPackSyncNote(std::optional<QString> note)
-{
-    if (m_packSyncNote != note) {
-        m_packSyncNote = std::move(note);
-        Q_EMIT packSyncNoteChanged();
-    }
-}
-
-void InformationModel::setSyncingPack(bool isSyncingPack)
-{
-    if (m_isSyncingPack != isSyncingPack) {
-        m_isSyncingPack = isSyncingPack;
-        Q_EMIT isSyncingPackChanged();
-    }
-}
-
-void InformationModel::setAvailableUpdate(std::optional<InformationUpdateNotice> notice)
-{
-    if (m_availableUpdate != notice) {
-        m_availableUpdate = std::move(notice);
-        Q_EMIT availableUpdateChanged();
-    }
-}
-
-void InformationModel::setUndoWorkspace(std::optional<InformationWorkspace> workspace)
+void InformationModel::changeUndo(const std::function<void()>& change)
 {
     const bool couldUndo = canUndo();
-    m_undoWorkspace = std::move(workspace);
+    change();
     if (canUndo() != couldUndo) {
         Q_EMIT canUndoChanged();
     }
 }
 
-void InformationModel::dropCaches()
+void InformationModel::clearUndo()
 {
-    m_signalIndexCache.reset();
-    m_visibleSignalsCache.reset();
-    m_archiveDaysCache.reset();
-    m_weeklyWeeksCache.reset();
+    changeUndo([this] { m_journal.clearUndo(); });
+}
+
+bool InformationModel::keep(const InformationSignal& signal)
+{
+    return transactUndoable(WorkbenchTexts::keepReceipt(signal.followTarget.updateMode),
+                            [&](InformationWorkspace& workspace) {
+                                m_threads.keep(workspace, signal, wholeSecondsNow());
+                            });
+}
+
+bool InformationModel::keepMatch(const InformationSignal& signal)
+{
+    if (isKept(signal)) {
+        clearUndo();
+        setSurface(Surface::Kept);
+        m_receipt = u"“%1”已经在已收下里。"_qs.arg(signal.followTarget.label);
+        return true;
+    }
+    if (!keep(signal)) {
+        return false;
+    }
+    setSurface(Surface::Kept);
+    return true;
+}
+
+bool InformationModel::keepCustomSource(const QString& input)
+{
+    const CustomInformationSource source{QUuid::createUuid(), input, wholeSecondsNow()};
+    if (!transactUndoable(u"已收下并安全保存在本机；这个来源尚未接入更新，不会冒充已经同步。"_qs,
+                          [&source](InformationWorkspace& workspace) {
+                              workspace.customSources.append(source);
+                          })) {
+        return false;
+    }
+    setSurface(Surface::Kept);
+    return true;
+}
+
+void InformationModel::withSignal(const QString& id,
+                                  void (InformationModel::*act)(const InformationSignal&))
+{
+    if (const auto signal = signalById(id)) {
+        (this->*act)(*signal);
+    }
 }
 
 void InformationModel::assertMainThread() const
@@ -637,33 +475,4 @@ std::chrono::sys_seconds InformationModel::wholeSecondsNow() const
 {
     return std::chrono::sys_seconds(
         std::chrono::seconds(static_cast<qint64>(std::floor(m_collaborators.now()))));
-}
-
-QList<QString> InformationModel::threadIds(const InformationSignal& signal) const
-{
-    QList<QString> ids;
-    for (const auto& candidate : signals()) {
-        if (candidate.followTarget.id == signal.followTarget.id) {
-            ids.append(candidate.id);
-        }
-    }
-    return ids;
-}
-
-const InformationSignal*
-InformationModel::signalMatching(const NormalizedInformationIntake& address) const
-{
-    if (address.kind != NormalizedInformationIntake::Kind::Url) {
-        return nullptr;
-    }
-    const auto matches = [&address](const QString& url) {
-        const auto candidate = InformationIntake::normalize(url);
-        return candidate && candidate->identity == address.identity;
-    };
-    for (const auto& signal : signals()) {
-        if (matches(signal.followTarget.url) || matches(signal.originalURL)) {
-            return &signal;
-        }
-    }
-    return nullptr;
 }

@@ -1,19 +1,22 @@
 #pragma once
 
+#include "ContentRefresh.h"
 #include "InformationContent.h"
 #include "InformationFileManager.h"
-#include "InformationIntakeFailure.h"
 #include "InformationSignal.h"
 #include "InformationUpdateNotice.h"
 #include "InformationWorkspace.h"
 #include "InformationWorkspaceRepository.h"
-#include "NormalizedInformationIntake.h"
+#include "KeptThreads.h"
 #include "SelectionDay.h"
 #include "SiteClient.h"
 #include "WeeklyDigest.h"
+#include "WorkspaceJournal.h"
 
 #include <QHash>
 #include <QObject>
+#include <QObjectBindableProperty>
+#include <QSet>
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
@@ -65,13 +68,13 @@ public:
         std::function<double()> now;
         /// The compiled-in selection history.
         QList<SelectionDay> seedHistory;
+        /// The only site that an update may come from.
         SiteClient& site;
         /// Of the program; empty where it is not known.
         QString runningVersion;
     };
 
-    /// Loads the workspace. A stored one that cannot be read is reported and never overwritten:
-    /// the model then goes on without the repository.
+    /// Loads the workspace. A stored one that cannot be read is reported and never overwritten.
     InformationModel(Collaborators collaborators, InformationContent content,
                      std::optional<InformationWorkspaceRepository> repository,
                      QObject* parent = nullptr);
@@ -86,34 +89,34 @@ public:
     const QList<InformationSignal>& retiredSignals() const { return m_content.retiredSignals(); }
     const QList<SelectionDay>& selectionDays() const { return m_content.selectionDays(); }
     const QString& packAsOf() const { return m_content.packAsOf(); }
-    const InformationWorkspace& workspace() const { return m_workspace; }
+    const InformationWorkspace& workspace() const { return m_journal.workspace(); }
     const QString& search() const { return m_search; }
     /// Nothing means all lanes.
     std::optional<InformationLane> activeLane() const { return m_activeLane; }
     const std::optional<QString>& errorMessage() const { return m_errorMessage; }
     const std::optional<QString>& receipt() const { return m_receipt; }
-    bool canUndo() const { return m_undoWorkspace.has_value(); }
+    bool canUndo() const { return m_journal.canUndo(); }
     const std::optional<QString>& intakeErrorMessage() const { return m_intakeErrorMessage; }
     bool isSyncingPack() const { return m_isSyncingPack; }
     /// How the last refresh ended; nothing while one runs.
-    const std::optional<QString>& packSyncNote() const { return m_packSyncNote; }
+    std::optional<QString> packSyncNote() const;
     /// A newer build that the site offers and the reader has not waved away.
     const std::optional<InformationUpdateNotice>& availableUpdate() const
     {
         return m_availableUpdate;
     }
 
-    bool hasOpenThread() const { return m_openThread.has_value(); }
-    QString openThreadId() const { return m_openThread.value_or(QString()); }
-    bool hasReceipt() const { return m_receipt.has_value(); }
-    QString receiptText() const { return m_receipt.value_or(QString()); }
-    bool hasErrorMessage() const { return m_errorMessage.has_value(); }
-    QString errorText() const { return m_errorMessage.value_or(QString()); }
-    QString intakeErrorText() const { return m_intakeErrorMessage.value_or(QString()); }
-    QString packSyncNoteText() const { return m_packSyncNote.value_or(QString()); }
+    QString openThreadId() const { return openThread().value_or(QString()); }
+    bool hasOpenThread() const { return openThread().has_value(); }
+    QString receiptText() const { return receipt().value_or(QString()); }
+    bool hasReceipt() const { return receipt().has_value(); }
+    QString errorText() const { return errorMessage().value_or(QString()); }
+    bool hasErrorMessage() const { return errorMessage().has_value(); }
+    QString intakeErrorText() const { return intakeErrorMessage().value_or(QString()); }
+    QString packSyncNoteText() const { return packSyncNote().value_or(QString()); }
     bool packSyncFailed() const;
     QString syncHelp() const;
-    bool hasAvailableUpdate() const { return m_availableUpdate.has_value(); }
+    bool hasAvailableUpdate() const { return availableUpdate().has_value(); }
     QString availableUpdateText() const;
     QString availableUpdateHelp() const;
     QString availableUpdateAddress() const;
@@ -127,6 +130,7 @@ public:
     /// Newest first.
     const QList<SelectionDay>& archiveDays() const;
     const QList<WeeklyDigest::Week>& weeklyWeeks() const;
+    bool isKept(const InformationSignal& signal) const;
 
     // Derived reads, computed anew on each call
 
@@ -137,10 +141,8 @@ public:
     QList<InformationSignal> focusedSignals() const;
     QList<InformationSignal> remainingSignals() const;
     qsizetype keptItemCount() const;
-    bool isKept(const InformationSignal& signal) const;
     /// The signal id and entry that stand for the signal's thread; of several the last kept.
-    std::optional<InformationWorkspace::SavedMap::value_type>
-    savedEntry(const InformationSignal& signal) const;
+    std::optional<KeptThreads::SavedEntry> savedEntry(const InformationSignal& signal) const;
     /// The kept lists, filtered by `search`.
     QList<InformationSignal> keptSignals() const;
     QList<CustomInformationSource> keptCustomSources() const;
@@ -149,14 +151,11 @@ public:
     /// @param path below the site's base URL
     Q_INVOKABLE QString sitePage(const QString& path) const;
 
-    static QString intakeMessage(InformationIntakeFailure failure);
-    static QString keepReceipt(InformationFollowUpdateMode updateMode);
-
     // Actions
 
-    void setSurface(Surface surface);
-    void setSearch(const QString& search);
-    void setActiveLane(std::optional<InformationLane> lane);
+    void setSurface(Surface surface) { assign(m_surface, surface); }
+    void setSearch(const QString& search) { assign(m_search, search); }
+    void setActiveLane(std::optional<InformationLane> lane) { assign(m_activeLane, lane); }
 
     void toggleKeep(const InformationSignal& signal);
     void removeKept(const InformationSignal& signal);
@@ -176,22 +175,21 @@ public:
     Q_INVOKABLE void undoLastAction();
     /// Shows the day in the archive when the selection history has it.
     Q_INVOKABLE void openArchiveDay(const QString& date);
-    Q_INVOKABLE void closeArchiveDay();
+    Q_INVOKABLE void closeArchiveDay() { assign(m_selectedArchiveDay, std::nullopt); }
     /// Opens the thread of a live or retired signal; an unknown id does nothing.
     Q_INVOKABLE void openThread(const QString& signalId);
-    Q_INVOKABLE void closeThread();
+    Q_INVOKABLE void closeThread() { assign(m_openThread, std::nullopt); }
 
-    /// Fetches the site's pack and, where it is newer than the content, shows and stores it with
-    /// the retired list beside it. Ends by saying in `packSyncNote` how it went; a failure changes
-    /// neither content nor files. Does nothing while a refresh runs.
+    /// Fetches the site's pack and shows it where it is newer than the content. Ends by saying in
+    /// `packSyncNote` how it went. Does nothing while a refresh runs.
     Q_INVOKABLE void refreshPackFromSite();
     /// Looks once in the model's life for a newer build of the program; a failure is silent.
     Q_INVOKABLE void probeAppUpdateOnce();
 
-    Q_INVOKABLE void dismissReceipt();
-    Q_INVOKABLE void dismissError();
-    Q_INVOKABLE void dismissIntakeError();
-    Q_INVOKABLE void dismissUpdate();
+    Q_INVOKABLE void dismissReceipt() { assign(m_receipt, std::nullopt); }
+    Q_INVOKABLE void dismissError() { assign(m_errorMessage, std::nullopt); }
+    Q_INVOKABLE void dismissIntakeError() { assign(m_intakeErrorMessage, std::nullopt); }
+    Q_INVOKABLE void dismissUpdate() { assign(m_availableUpdate, std::nullopt); }
 
 Q_SIGNALS:
     void surfaceChanged();
@@ -211,61 +209,69 @@ Q_SIGNALS:
     void availableUpdateChanged();
 
 private:
-    using Mutation = std::function<void(InformationWorkspace&)>;
+    using Text = std::optional<QString>;
+
+    /// What is worked out at the first read after the content or the workspace changed.
+    struct Caches
+    {
+        std::optional<QHash<QString, InformationSignal>> signalIndex;
+        std::optional<QList<InformationSignal>> visibleSignals;
+        std::optional<QList<SelectionDay>> archiveDays;
+        std::optional<QList<WeeklyDigest::Week>> weeklyWeeks;
+        std::optional<QSet<QString>> keptTargets;
+    };
 
     /// Applies, announces, saves; on failure takes back, clears the receipt and says why.
-    bool transact(const Mutation& mutation, const std::function<void()>& announce = [] {});
-    bool transactUndoable(const QString& receipt, const Mutation& mutation);
+    bool
+    transact(const WorkspaceJournal::Change& change, const std::function<void()>& announce = [] {});
+    /// The same with a receipt. Leaves no undo but the one of its success.
+    bool transactUndoable(const QString& receipt, const WorkspaceJournal::Change& change);
+    void announceWorkspace();
+    /// Lets the journal's undo slot change and announces that.
+    void changeUndo(const std::function<void()>& change);
+    void clearUndo();
+    bool keep(const InformationSignal& signal);
+    bool keepMatch(const InformationSignal& signal);
+    bool keepCustomSource(const QString& input);
 
     QCoro::Task<> refreshPack();
-    /// Ends a refresh with its note and, where a newer pack came, the content.
-    void endRefresh(const QString& note, std::optional<InformationContent> content = std::nullopt);
     QCoro::Task<> probeAppUpdate();
 
-    void setWorkspace(InformationWorkspace workspace);
-    void setReceipt(std::optional<QString> receipt);
-    void setErrorMessage(std::optional<QString> message);
-    void setIntakeErrorMessage(std::optional<QString> message);
-    void setSelectedArchiveDay(std::optional<QString> date);
-    void setOpenThread(std::optional<QString> signalId);
-    void setPackSyncNote(std::optional<QString> note);
-    void setSyncingPack(bool isSyncingPack);
-    void setAvailableUpdate(std::optional<InformationUpdateNotice> notice);
-    void setUndoWorkspace(std::optional<InformationWorkspace> workspace);
-    void clearUndo() { setUndoWorkspace(std::nullopt); }
-    void dropCaches();
-
+    template <typename Property, typename Value>
+    void assign(Property& property, const Value& value)
+    {
+        assertMainThread();
+        property = value;
+    }
+    void withSignal(const QString& id, void (InformationModel::*act)(const InformationSignal&));
     void assertMainThread() const;
     std::chrono::sys_seconds wholeSecondsNow() const;
-    /// The ids of the live signals that share the signal's follow target.
-    QList<QString> threadIds(const InformationSignal& signal) const;
-    /// The live signal that the normalised address belongs to.
-    const InformationSignal* signalMatching(const NormalizedInformationIntake& address) const;
-    Mutation keepMutation(const InformationSignal& signal) const;
-    Mutation removeKeptMutation(const InformationSignal& signal) const;
 
     const Collaborators m_collaborators;
-    std::optional<InformationWorkspaceRepository> m_repository;
-
     InformationContent m_content;
-    InformationWorkspace m_workspace;
-    std::optional<InformationWorkspace> m_undoWorkspace;
-
-    Surface m_surface = Surface::Today;
-    std::optional<QString> m_selectedArchiveDay;
-    std::optional<QString> m_openThread;
-    QString m_search;
-    std::optional<InformationLane> m_activeLane;
-    std::optional<QString> m_errorMessage;
-    std::optional<QString> m_receipt;
-    std::optional<QString> m_intakeErrorMessage;
-    bool m_isSyncingPack = false;
-    std::optional<QString> m_packSyncNote;
-    std::optional<InformationUpdateNotice> m_availableUpdate;
+    KeptThreads m_threads;
+    WorkspaceJournal m_journal;
+    mutable Caches m_caches;
+    std::optional<ContentRefresh::Outcome> m_refreshOutcome;
     bool m_updateProbeRan = false;
 
-    mutable std::optional<QHash<QString, InformationSignal>> m_signalIndexCache;
-    mutable std::optional<QList<InformationSignal>> m_visibleSignalsCache;
-    mutable std::optional<QList<SelectionDay>> m_archiveDaysCache;
-    mutable std::optional<QList<WeeklyDigest::Week>> m_weeklyWeeksCache;
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(InformationModel, Surface, m_surface, Surface::Today,
+                                         &InformationModel::surfaceChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(InformationModel, Text, m_selectedArchiveDay,
+                               &InformationModel::selectedArchiveDayChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(InformationModel, Text, m_openThread,
+                               &InformationModel::openThreadChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(InformationModel, QString, m_search,
+                               &InformationModel::searchChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(InformationModel, std::optional<InformationLane>, m_activeLane,
+                               &InformationModel::activeLaneChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(InformationModel, Text, m_errorMessage,
+                               &InformationModel::errorMessageChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(InformationModel, Text, m_receipt, &InformationModel::receiptChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(InformationModel, Text, m_intakeErrorMessage,
+                               &InformationModel::intakeErrorMessageChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(InformationModel, bool, m_isSyncingPack, false,
+                                         &InformationModel::isSyncingPackChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(InformationModel, std::optional<InformationUpdateNotice>,
+                               m_availableUpdate, &InformationModel::availableUpdateChanged)
 };

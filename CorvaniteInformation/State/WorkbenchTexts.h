@@ -1,6 +1,7 @@
 #pragma once
 
 #include "InformationFollowUpdateMode.h"
+#include "InformationIntakeFailure.h"
 
 #include <QString>
 
@@ -14,6 +15,12 @@ QString todayLead(qsizetype visible, qsizetype focused, qsizetype hidden);
 
 /// What the reader's earlier adjustments did; speaks of the lanes where any is turned down.
 QString preferenceStatusText(qsizetype reducedLanes, qsizetype hidden);
+
+/// Why a hand-in is not taken.
+QString intakeMessage(InformationIntakeFailure failure);
+
+/// That a signal was kept, and how it will be followed.
+QString keepReceipt(InformationFollowUpdateMode updateMode);
 
 /// How a kept signal will be followed.
 QString followText(InformationFollowUpdateMode updateMode);

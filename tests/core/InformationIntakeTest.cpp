@@ -1,4 +1,6 @@
 #include "InformationIntake.h"
+
+#include "SampleSignal.h"
 #include "Subject.h"
 
 #include <QTest>
@@ -403,6 +405,35 @@ private Q_SLOTS:
         QVERIFY(!InformationIntake::contains(*intake, {}));
         QCOMPARE(InformationIntake::contains(*intake, {other, sourceWith(stored), other}),
                  contained);
+    }
+
+    void matchesTheFirstSignalOfAnAddress_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("id");
+
+        QTest::newRow("follow target") << u"https://target.example/a"_qs << u"a"_qs;
+        QTest::newRow("original") << u"https://original.example/b/?utm_source=x"_qs << u"b"_qs;
+        QTest::newRow("of two the first") << u"https://shared.example/"_qs << u"a"_qs;
+        QTest::newRow("no signal's") << u"https://other.example"_qs << QString();
+        QTest::newRow("a sentence") << u"original example"_qs << QString();
+    }
+
+    void matchesTheFirstSignalOfAnAddress()
+    {
+        auto first = sampleSignal(u"a"_qs);
+        first.followTarget.url = u"https://target.example/a"_qs;
+        first.originalURL = u"https://shared.example/"_qs;
+        auto second = sampleSignal(u"b"_qs);
+        second.followTarget.url = u"https://shared.example/"_qs;
+        second.originalURL = u"https://original.example/b"_qs;
+        const QList signals{first, second};
+        QFETCH(QString, input);
+
+        const auto* const match =
+            InformationIntake::match(InformationIntake::normalize(input).value(), signals);
+
+        QTEST(match ? match->id : QString(), "id");
     }
 };
 
