@@ -16,6 +16,12 @@ void keepFirstOccurrences(QList<Value>& list)
     });
 }
 
+template <typename Value>
+bool holdsEachOnce(const QList<Value>& list)
+{
+    return QSet<Value>(list.begin(), list.end()).size() == list.size();
+}
+
 void keepLatest(QList<QString>& seenTargets)
 {
     if (seenTargets.size() > InformationWorkspace::maximumSeenTargets) {
@@ -32,6 +38,12 @@ void InformationWorkspace::normalize()
     keepFirstOccurrences(reducedLanes);
     keepFirstOccurrences(seenTargets);
     keepLatest(seenTargets);
+}
+
+bool InformationWorkspace::isNormalized() const
+{
+    return holdsEachOnce(following) && holdsEachOnce(hidden) && holdsEachOnce(reducedLanes) &&
+           holdsEachOnce(seenTargets) && seenTargets.size() <= maximumSeenTargets;
 }
 
 bool InformationWorkspace::keeps(const InformationSignal& signal) const

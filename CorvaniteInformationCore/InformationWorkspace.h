@@ -45,6 +45,9 @@ struct InformationWorkspace
     /// seen targets. `saved` and `customSources` stay as they are.
     void normalize();
 
+    /// Whether `normalize` would change nothing.
+    bool isNormalized() const;
+
     /// Whether the signal is saved and its target followed.
     bool keeps(const InformationSignal& signal) const;
 

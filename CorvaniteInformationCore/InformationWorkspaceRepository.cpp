@@ -15,6 +15,17 @@ namespace {
 // The first version that follows target ids; those before it followed signal ids.
 constexpr qint64 firstVersionFollowingTargets = 3;
 
+// A copy of thousands of kept signals takes its time, and what the model changes is clean.
+QByteArray document(const InformationWorkspace& workspace)
+{
+    if (workspace.isNormalized()) {
+        return InformationWorkspaceCoding::encode(workspace);
+    }
+    InformationWorkspace cleaned = workspace;
+    cleaned.normalize();
+    return InformationWorkspaceCoding::encode(cleaned);
+}
+
 } // namespace
 
 std::expected<InformationWorkspaceRepository, InformationRepositoryError>
@@ -55,12 +66,10 @@ std::expected<void, FileError>
 InformationWorkspaceRepository::save(const InformationWorkspace& workspace,
                                      const InformationFileManager& fileManager) const
 {
-    InformationWorkspace stored = workspace;
-    stored.normalize();
     if (const auto made = fileManager.createDirectory(QFileInfo(filePath).path()); !made) {
         return made;
     }
-    return fileManager.replaceFile(filePath, InformationWorkspaceCoding::encode(stored));
+    return fileManager.replaceFile(filePath, document(workspace));
 }
 
 std::expected<InformationWorkspace, InformationRepositoryError>

@@ -105,6 +105,44 @@ private Q_SLOTS:
         QCOMPARE(workspace.seenTargets, numbered(u"t"_qs, 300));
     }
 
+    void isNormalizedWhereNormalizingChangesNothing_data()
+    {
+        QTest::addColumn<InformationWorkspace>("workspace");
+        QTest::addColumn<bool>("normalized");
+
+        const auto add = [](const char* name, bool normalized, auto change) {
+            InformationWorkspace workspace;
+            change(workspace);
+            QTest::newRow(name) << workspace << normalized;
+        };
+        const QList once{u"a"_qs, u"b"_qs};
+        const QList twice{u"a"_qs, u"a"_qs};
+        add("empty", true, [](auto&) {});
+        add("followed", true, [&](auto& workspace) { workspace.following = once; });
+        add("followed twice", false, [&](auto& workspace) { workspace.following = twice; });
+        add("hidden", true, [&](auto& workspace) { workspace.hidden = once; });
+        add("hidden twice", false, [&](auto& workspace) { workspace.hidden = twice; });
+        add("reduced", true,
+            [](auto& workspace) { workspace.reducedLanes = {InformationLane::Workflow}; });
+        add("reduced twice", false, [](auto& workspace) {
+            workspace.reducedLanes = {InformationLane::Workflow, InformationLane::Workflow};
+        });
+        add("seen", true, [](auto& workspace) { workspace.seenTargets = numbered(u"t"_qs, 300); });
+        add("seen twice", false, [&](auto& workspace) { workspace.seenTargets = twice; });
+        add("seen too much", false,
+            [](auto& workspace) { workspace.seenTargets = numbered(u"t"_qs, 301); });
+    }
+
+    void isNormalizedWhereNormalizingChangesNothing()
+    {
+        QFETCH(InformationWorkspace, workspace);
+        auto normalized = workspace;
+        normalized.normalize();
+
+        QTEST(workspace.isNormalized(), "normalized");
+        QCOMPARE(workspace.isNormalized(), workspace == normalized);
+    }
+
     void keepingSavesTheReasonAndFollowsTheTarget()
     {
         const InformationSignal signal = sampleSignal(u"a"_qs);
