@@ -1,18 +1,14 @@
 """A desktop of its own to measure on, as a reader has it who uses no screen reader."""
 
 import os
-import sys
 import time
 from collections.abc import Mapping, Sequence
 from pathlib import Path
 
-REPOSITORY = Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(REPOSITORY / "tests/desktop"))
+from own_process import OwnProcess
+from world import World
 
-from own_process import OwnProcess  # noqa: E402
-from world import World  # noqa: E402
-
-TOOLS = REPOSITORY / "build/release/bin"
+TOOLS = Path(__file__).resolve().parents[1] / "build/release/bin"
 
 
 class Desk(World):

@@ -8,7 +8,8 @@ import random
 from datetime import datetime, timedelta
 from pathlib import Path
 
-EDITION = Path(__file__).resolve().parents[1] / "CorvaniteInformationCore/seed/information-pack.json"
+REPOSITORY = Path(__file__).resolve().parents[1]
+EDITION = REPOSITORY / "CorvaniteInformationCore/seed/information-pack.json"
 
 MAXIMUM_PACK_BYTES = 1_500_000
 SIGNALS = 2800
@@ -146,10 +147,11 @@ def make_workspace(signals: list[dict]) -> dict:
 
 
 def custom_source(number: int) -> dict:
+    topic = f"第 {number} 个想跟踪的话题"
     return {
         "createdAt": seconds_stamp(AS_OF - timedelta(days=number)),
         "id": f"00000000-0000-4000-8000-{number:012}",
-        "input": f"https://example.com/changelog/{number}" if number % 2 else f"第 {number} 个想跟踪的话题",
+        "input": f"https://example.com/changelog/{number}" if number % 2 else topic,
     }
 
 

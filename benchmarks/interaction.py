@@ -14,16 +14,15 @@ from dataclasses import dataclass
 from pathlib import Path
 from statistics import median
 
-from desk import TOOLS, Desk, memory_bytes
-from full_pack import write_full_data
-from start import idleness_of
-from table import Row, compared, shown
-
 from accessibility import Element
 from commands import answer_of
+from desk import TOOLS, Desk, memory_bytes
+from full_pack import write_full_data
 from own_process import OwnProcess
 from polling import wait_until
 from program import WINDOW_TITLE, Program
+from start import idleness_of
+from table import Row, compared, shown
 
 Size = tuple[int, int]
 

@@ -3,6 +3,7 @@
 
 import argparse
 import shlex
+import sys
 from pathlib import Path
 
 from data import measure_data
@@ -39,7 +40,12 @@ def main() -> None:
         "data": lambda: measure_data(arguments.runs),
         "interaction": lambda: measure_interaction(program, arguments.runs),
     }
-    print_table([row for part in PARTS if part in parts for row in measured[part]()])
+    rows = []
+    for part in PARTS:
+        if part in parts:
+            print(f"Measuring: {part}", file=sys.stderr)
+            rows += measured[part]()
+    print_table(rows)
 
 
 if __name__ == "__main__":

@@ -12,13 +12,12 @@ from dataclasses import dataclass, field
 from pathlib import Path
 from statistics import median
 
+from commands import answer_of
 from desk import TOOLS, Desk, memory_bytes, processor_seconds, started_by, wake_ups
 from full_pack import write_full_data
-from table import Row, shown
-
-from commands import answer_of
 from own_process import OwnProcess
 from polling import wait_until
+from table import Row, compared, shown
 
 SCREEN = (1280, 800)
 SETTLING = 5.0
@@ -96,17 +95,15 @@ class Measured:
             return idleness_of(started.processes())
 
     def instructions(self) -> Instructions:
-        return Instructions(
-            self._instructions(lambda started: None), self._instructions(wait_for_rest)
-        )
+        return Instructions(self._instructions(to_rest=False), self._instructions(to_rest=True))
 
-    def _instructions(self, wait: "Callable[[Started], None]") -> float:
-        """Counted from the start until the content stands, and the wait is over."""
+    def _instructions(self, to_rest: bool) -> float:
         counts = self._desk.folder / "callgrind"
         callgrind = ["valgrind", "--tool=callgrind", f"--callgrind-out-file={counts}"]
         with Started(self._probe([*callgrind, *self.subject.command])) as started:
             started.wait_for_content(UNDER_CALLGRIND)
-            wait(started)
+            if to_rest:
+                wait_for_rest(started.pid)
             os.kill(started.pid, END)
             started.wait_for_end()
         totals = [line for line in counts.read_text().splitlines() if line.startswith("totals:")]
@@ -161,10 +158,10 @@ class Started:
         return wait_until(printed, "the program starts and shows its content", patience)
 
 
-def wait_for_rest(started: Started) -> None:
+def wait_for_rest(process: int) -> None:
     end = time.monotonic() + UNDER_CALLGRIND
     used = 0.0
-    while (now := processor_seconds([started.pid])) - used > STILL_WORK:
+    while (now := processor_seconds([process])) - used > STILL_WORK:
         if time.monotonic() > end:
             raise TimeoutError("the program does not come to rest")
         used = now
@@ -203,66 +200,72 @@ def measure_start(program: Path, against: Sequence[Sequence[str]], runs: int) ->
         ]
 
 
-QUANTITIES: list[tuple[str, Callable[[Figures], float], str]] = [
-    ("start to content", lambda figures: figures.content_ms, "ms"),
-    ("processor until content", lambda figures: figures.content_processor_ms, "ms"),
-    ("processor until rest", lambda figures: figures.rest_processor_ms, "ms"),
-    ("memory", lambda figures: figures.memory_mb, "MB"),
-]
+@dataclass(frozen=True)
+class Quantity:
+    name: str
+    of: Callable[[Figures], float]
+    unit: str
+    targets: Mapping[str, str] = field(default_factory=dict)
+    """By what the subject is compared with; "" for every other program."""
 
-TARGETS = {
-    ("start to content", "edition", "empty window"): "at most 1.8",
-    ("start to content", "full pack", "edition"): "at most 1.1",
-}
-AGAINST_TARGETS = {"start to content": "at most 0.25", "memory": "at most 0.6"}
+
+QUANTITIES = [
+    Quantity(
+        "start to content",
+        lambda figures: figures.content_ms,
+        "ms",
+        {"empty window": "at most 1.8", "edition": "at most 1.1", "": "at most 0.25"},
+    ),
+    Quantity("processor until content", lambda figures: figures.content_processor_ms, "ms"),
+    Quantity("processor until rest", lambda figures: figures.rest_processor_ms, "ms"),
+    Quantity("memory", lambda figures: figures.memory_mb, "MB", {"": "at most 0.6"}),
+]
 
 
 def paired_rows(
     empty: Measured, edition: Measured, full: Measured, others: Sequence[Measured]
 ) -> list[Row]:
-    rows = []
-    pairs = [(edition, empty), (full, edition), *[(edition, other) for other in others]]
-    for quantity, value, unit in QUANTITIES:
-        for subject, limit in pairs:
-            values = [value(figures) for figures in subject.figures]
-            limits = [value(figures) for figures in limit.figures]
-            names = (quantity, subject.subject.name, limit.subject.name)
-            target = AGAINST_TARGETS.get(quantity, "") if limit in others else TARGETS.get(names, "")
-            rows.append(
-                Row(
-                    f"{quantity}: {subject.subject.name}",
-                    shown(median(values), unit),
-                    limit.subject.name,
-                    shown(median(limits), unit),
-                    f"{median(a / b for a, b in zip(values, limits)):.2f}",
-                    target,
-                )
-            )
-    return rows
+    pairs = [(edition, empty, empty.subject.name), (full, edition, edition.subject.name)]
+    pairs += [(edition, other, "") for other in others]
+    return [
+        paired_row(quantity, subject, limit, quantity.targets.get(kind, ""))
+        for quantity in QUANTITIES
+        for subject, limit, kind in pairs
+    ]
+
+
+def paired_row(quantity: Quantity, subject: Measured, limit: Measured, target: str) -> Row:
+    values = [quantity.of(figures) for figures in subject.figures]
+    limits = [quantity.of(figures) for figures in limit.figures]
+    return Row(
+        f"{quantity.name}: {subject.subject.name}",
+        shown(median(values), quantity.unit),
+        limit.subject.name,
+        shown(median(limits), quantity.unit),
+        f"{median(a / b for a, b in zip(values, limits)):.2f}",
+        target,
+    )
 
 
 def instruction_rows(empty: Measured, edition: Measured, full: Measured) -> list[Row]:
-    counts = {measured.subject.name: measured.instructions() for measured in (empty, edition, full)}
+    of_empty, of_edition, of_full = (
+        measured.instructions() for measured in (empty, edition, full)
+    )
     rows = []
-    for subject, limit, target in [
-        ("edition", "empty window", "at most 4.5"),
-        ("full pack", "edition", ""),
+    for name, counts, limit_name, limits, target in [
+        ("edition", of_edition, "empty window", of_empty, "at most 4.5"),
+        ("full pack", of_full, "edition", of_edition, ""),
     ]:
-        of_subject, of_limit = counts[subject], counts[limit]
-        for until, figure, least, aim in [
-            ("content", of_subject.until_content, of_limit.until_content, ""),
-            ("rest", of_subject.until_rest, of_limit.until_rest, target),
-        ]:
-            rows.append(
-                Row(
-                    f"instructions until {until}: {subject}",
-                    shown(figure, "million"),
-                    limit,
-                    shown(least, "million"),
-                    f"{figure / least:.2f}",
-                    aim,
-                )
-            )
+        rows += [
+            compared(
+                f"instructions until content: {name}", counts.until_content,
+                limits.until_content, "million", limit_name,
+            ),
+            compared(
+                f"instructions until rest: {name}", counts.until_rest, limits.until_rest,
+                "million", limit_name, target,
+            ),
+        ]
     return rows
 
 
