@@ -1,7 +1,7 @@
 """From a key to the changed frame, and the frames while a surface scrolls, through the real window.
 
-A first start, with a screen reader's help, finds out how often the Tab key leads to what. Those that
-are measured have no such help, and get the same keys.
+A first start, with a screen reader's help, finds out how often the Tab key leads to what. Those
+that are measured have no such help, and get the same keys.
 """
 
 import os

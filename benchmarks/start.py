@@ -114,8 +114,8 @@ class Measured:
         return self._desk.run("start", [*probe, *command], self.subject.variables)
 
     def _picture_at_rest(self) -> Path:
-        picture = self._desk.folder / f"{self.subject.name}.bgra"
         process = self._desk.run("first", self.subject.command, self.subject.variables)
+        picture = self._desk.folder / f"at-rest-{process.pid}.bgra"
         time.sleep(SETTLING)
         take = ["import", "-window", "root", "-depth", "8", f"bgra:{picture}"]
         answer_of(take, self._desk.environment)
