@@ -1,0 +1,116 @@
+// Starts a command and tells when its content stands on the screen:
+//   start_probe PICTURE COMMAND...
+// PICTURE is the screen as it is once the command has come to rest, four bytes a pixel. Prints,
+// after "probe:", the process number, and with the content the seconds since the start and the
+// processor seconds used until then; then waits for the command's end.
+
+#include "WatchedScreen.h"
+
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <fstream>
+#include <vector>
+
+namespace {
+
+constexpr std::uint32_t colour = 0xffffff;
+constexpr auto patience = std::chrono::minutes(5);
+
+/// The outlines of what stands on the screen at rest: pixels that differ from their left neighbour.
+class Outlines
+{
+public:
+    Outlines(std::vector<std::uint32_t> picture) : m_picture(std::move(picture))
+    {
+        for (size_t at = 1; at < m_picture.size(); ++at) {
+            if (((m_picture[at] ^ m_picture[at - 1]) & colour) != 0) {
+                m_places.push_back(at);
+            }
+        }
+    }
+
+    /// Whether at least half of them stand there.
+    bool standIn(std::span<const std::uint32_t> pixels) const
+    {
+        size_t standing = 0;
+        for (const size_t at : m_places) {
+            standing += isSame(pixels, at) && isSame(pixels, at - 1) ? 1 : 0;
+        }
+        return standing * 2 >= m_places.size();
+    }
+
+private:
+    bool isSame(std::span<const std::uint32_t> pixels, size_t at) const
+    {
+        return ((pixels[at] ^ m_picture[at]) & colour) == 0;
+    }
+
+    std::vector<std::uint32_t> m_picture;
+    std::vector<size_t> m_places;
+};
+
+std::vector<std::uint32_t> readPicture(const char* path, size_t size)
+{
+    std::vector<std::uint32_t> pixels(size);
+    std::ifstream file(path, std::ios::binary);
+    const auto bytes = static_cast<std::streamsize>(size * sizeof(std::uint32_t));
+    if (!file.read(reinterpret_cast<char*>(pixels.data()), bytes)) {
+        std::fprintf(stderr, "%s is no picture of this screen.\n", path);
+        std::exit(EXIT_FAILURE);
+    }
+    return pixels;
+}
+
+pid_t start(char* command[])
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        execvp(command[0], command);
+        _exit(127);
+    }
+    return child;
+}
+
+double processorSeconds(pid_t process)
+{
+    clockid_t clock = 0;
+    timespec used{};
+    if (clock_getcpuclockid(process, &clock) != 0 || clock_gettime(clock, &used) != 0) {
+        return 0;
+    }
+    return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) / 1e9;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (argc < 3) {
+        return EXIT_FAILURE;
+    }
+    WatchedScreen screen;
+    const Outlines outlines(readPicture(argv[1], screen.pixels().size()));
+
+    const auto begin = WatchedScreen::Clock::now();
+    const pid_t process = start(argv + 2);
+    std::printf("probe: %d\n", process);
+    std::fflush(stdout);
+    while (const auto drawn = screen.nextDamage(begin + patience)) {
+        const double processor = processorSeconds(process);
+        if (outlines.standIn(screen.pixels())) {
+            std::printf("probe: %.6f %.6f\n", std::chrono::duration<double>(*drawn - begin).count(),
+                        processor);
+            break;
+        }
+    }
+    std::fflush(stdout);
+    waitpid(process, nullptr, 0);
+    return EXIT_SUCCESS;
+}
