@@ -7,6 +7,7 @@
 #include "FakeSiteClient.h"
 #include "InformationIntake.h"
 #include "InformationModel.h"
+#include "InformationPackCoding.h"
 #include "InformationPackSync.h"
 #include "InformationProjection.h"
 #include "InformationSignalIndex.h"
@@ -103,7 +104,7 @@ struct Content
           pack(read(folder + u"/Corvanite/Information/information-pack.json"_qs)),
           stored(read(repository.filePath)),
           snapshot(InformationPackSync::parse(pack).value()),
-          signals(InformationPackSync::parseRetired(read(folder + u"/signals.json"_qs)).value()),
+          signals(InformationPackCoding::decodeRetired(read(folder + u"/signals.json"_qs)).value()),
           workspace(repository.load(files).value())
     {
     }
@@ -144,7 +145,6 @@ struct Lists
                  .now = [] { return 0.0; },
                  .seedHistory = days,
                  .site = site,
-                 .allowedHost = {},
                  .runningVersion = {}},
                 InformationContent(signals, {}, days, asOf), content.repository)
     {

@@ -9,6 +9,8 @@
 #include <QDateTime>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QImage>
+#include <QPixmap>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
@@ -24,7 +26,9 @@ void introduce(const QString& version)
     QGuiApplication::setApplicationName(u"corvanite-information"_qs);
     QGuiApplication::setApplicationVersion(version);
     QGuiApplication::setDesktopFileName(u"example.corvanite.information"_qs);
-    QGuiApplication::setWindowIcon(QIcon(u":/corvanite/icons/app-icon-128.png"_qs));
+    // Its format is named: to guess it, Qt would load every image plugin there is.
+    QGuiApplication::setWindowIcon(
+        QPixmap::fromImage(QImage(u":/corvanite/icons/app-icon-128.png"_qs, "PNG")));
 }
 
 void chooseTextRendering(double devicePixelRatio)
@@ -67,8 +71,8 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     engine.addImportPath(u":/qt/qml"_qs);
     engine.setInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
                                  {u"reducedMotion"_qs, appearance.reducedMotion()}});
-    engine.load(
-        QUrl(u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
+    engine.load(QUrl(
+        u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
     if (engine.rootObjects().isEmpty()) {
         return EXIT_FAILURE;
     }
