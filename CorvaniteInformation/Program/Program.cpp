@@ -11,8 +11,11 @@
 #include <QIcon>
 #include <QImage>
 #include <QPixmap>
-#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickWindow>
+
+#include <memory>
 
 namespace {
 
@@ -67,16 +70,20 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
         return EXIT_SUCCESS;
     }
 
-    QQmlApplicationEngine engine;
+    // Not an application engine: its file selectors would look for variants of every file.
+    QQmlEngine engine;
     engine.addImportPath(u":/qt/qml"_qs);
-    engine.setInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
-                                 {u"reducedMotion"_qs, appearance.reducedMotion()}});
-    engine.load(QUrl(
-        u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
-    if (engine.rootObjects().isEmpty()) {
-        return EXIT_FAILURE;
+    QQmlComponent view(
+        &engine,
+        QUrl(
+            u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
+    const std::unique_ptr<QObject> root(
+        view.createWithInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
+                                          {u"reducedMotion"_qs, appearance.reducedMotion()}}));
+    auto* const window = qobject_cast<QWindow*>(root.get());
+    if (!window) {
+        qFatal("The window cannot be made: %s", qUtf8Printable(view.errorString()));
     }
-    auto* const window = qobject_cast<QWindow*>(engine.rootObjects().constFirst());
     QObject::connect(&appearance, &AppearancePortal::reducedMotionChanged, window,
                      [window](bool reduced) { window->setProperty("reducedMotion", reduced); });
     QObject::connect(&parts.instance(), &ProgramInstance::activationRequested, window,
