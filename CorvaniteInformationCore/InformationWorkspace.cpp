@@ -1,5 +1,7 @@
 #include "InformationWorkspace.h"
 
+#include "InformationProjection.h"
+
 #include <QSet>
 
 namespace {
@@ -20,6 +22,14 @@ template <typename Value>
 bool holdsEachOnce(const QList<Value>& list)
 {
     return QSet<Value>(list.begin(), list.end()).size() == list.size();
+}
+
+template <typename Value>
+void appendOnce(QList<Value>& list, const Value& value)
+{
+    if (!list.contains(value)) {
+        list.append(value);
+    }
 }
 
 void keepLatest(QList<QString>& seenTargets)
@@ -62,9 +72,13 @@ void InformationWorkspace::setKept(bool keep, const InformationSignal& signal,
     }
     saved.try_emplace(signal.id,
                       SavedInformation{.savedAt = at, .saveReason = signal.why, .note = {}});
-    if (!following.contains(target)) {
-        following.append(target);
-    }
+    appendOnce(following, target);
+}
+
+void InformationWorkspace::reduceSimilar(const InformationSignal& signal)
+{
+    appendOnce(hidden, InformationProjection::versionKey(signal));
+    appendOnce(reducedLanes, signal.lane);
 }
 
 bool InformationWorkspace::hasSeen(const InformationSignal& signal) const
@@ -74,8 +88,6 @@ bool InformationWorkspace::hasSeen(const InformationSignal& signal) const
 
 void InformationWorkspace::markSeen(const InformationSignal& signal)
 {
-    if (!hasSeen(signal)) {
-        seenTargets.append(signal.followTarget.id);
-        keepLatest(seenTargets);
-    }
+    appendOnce(seenTargets, signal.followTarget.id);
+    keepLatest(seenTargets);
 }

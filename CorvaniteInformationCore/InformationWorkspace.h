@@ -55,6 +55,9 @@ struct InformationWorkspace
     /// removes both, also where other kept signals share the target.
     void setKept(bool keep, const InformationSignal& signal, std::chrono::sys_seconds at);
 
+    /// Hides this version of the signal and turns its lane down.
+    void reduceSimilar(const InformationSignal& signal);
+
     bool hasSeen(const InformationSignal& signal) const;
     void markSeen(const InformationSignal& signal);
 

@@ -19,14 +19,6 @@ namespace {
 
 constexpr qsizetype maximumVersionBytes = 256 * 1024;
 
-template <typename T>
-void appendOnce(QList<T>& list, const T& value)
-{
-    if (!list.contains(value)) {
-        list.append(value);
-    }
-}
-
 template <typename T, typename WorkOut>
 const T& cached(std::optional<T>& cache, WorkOut workOut)
 {
@@ -87,11 +79,6 @@ bool InformationModel::isKept(const InformationSignal& signal) const
         .contains(signal.followTarget.id);
 }
 
-qsizetype InformationModel::laneAllCount() const
-{
-    return visibleSignals().size();
-}
-
 qsizetype InformationModel::laneCount(InformationLane lane) const
 {
     return std::ranges::count(visibleSignals(), lane, &InformationSignal::lane);
@@ -146,8 +133,6 @@ QString InformationModel::sitePage(const QString& path) const
     return m_collaborators.site.page(path).toString(QUrl::FullyEncoded);
 }
 
-// What the screens show of the site
-
 std::optional<QString> InformationModel::packSyncNote() const
 {
     return m_refreshOutcome ? std::optional(m_refreshOutcome->note()) : std::nullopt;
@@ -156,29 +141,6 @@ std::optional<QString> InformationModel::packSyncNote() const
 bool InformationModel::packSyncFailed() const
 {
     return m_refreshOutcome && m_refreshOutcome->kind == ContentRefresh::Outcome::Kind::Failed;
-}
-
-QString InformationModel::syncHelp() const
-{
-    return u"从 %1 拉取最新精选内容"_qs.arg(m_collaborators.site.host());
-}
-
-QString InformationModel::availableUpdateText() const
-{
-    const auto& update = availableUpdate();
-    return update ? u"新版本 %1 已发布"_qs.arg(update->version) : QString();
-}
-
-QString InformationModel::availableUpdateHelp() const
-{
-    const auto& update = availableUpdate();
-    return update ? u"获取 Corvanite Information 新版本 %1"_qs.arg(update->version) : QString();
-}
-
-QString InformationModel::availableUpdateAddress() const
-{
-    const auto& update = availableUpdate();
-    return update ? update->downloadURL.toString(QUrl::FullyEncoded) : QString();
 }
 
 // Actions
@@ -202,10 +164,7 @@ void InformationModel::reduceSimilar(const InformationSignal& signal)
 {
     transactUndoable(
         u"已减少“%1”并收起当前这条；重要变化仍会保留。"_qs.arg(displayName(signal.lane)),
-        [&signal](InformationWorkspace& workspace) {
-            appendOnce(workspace.hidden, InformationProjection::versionKey(signal));
-            appendOnce(workspace.reducedLanes, signal.lane);
-        });
+        [&signal](InformationWorkspace& workspace) { workspace.reduceSimilar(signal); });
 }
 
 void InformationModel::markSeen(const InformationSignal& signal)

@@ -45,16 +45,6 @@ class InformationModel : public QObject
     Q_PROPERTY(
         QString intakeErrorMessage READ intakeErrorText NOTIFY intakeErrorMessageChanged FINAL)
     Q_PROPERTY(bool isSyncingPack READ isSyncingPack NOTIFY isSyncingPackChanged FINAL)
-    Q_PROPERTY(QString packSyncNote READ packSyncNoteText NOTIFY packSyncNoteChanged FINAL)
-    Q_PROPERTY(bool packSyncFailed READ packSyncFailed NOTIFY packSyncNoteChanged FINAL)
-    Q_PROPERTY(QString syncHelp READ syncHelp CONSTANT FINAL)
-    Q_PROPERTY(bool hasAvailableUpdate READ hasAvailableUpdate NOTIFY availableUpdateChanged FINAL)
-    Q_PROPERTY(
-        QString availableUpdateText READ availableUpdateText NOTIFY availableUpdateChanged FINAL)
-    Q_PROPERTY(
-        QString availableUpdateHelp READ availableUpdateHelp NOTIFY availableUpdateChanged FINAL)
-    Q_PROPERTY(QString availableUpdateAddress READ availableUpdateAddress NOTIFY
-                   availableUpdateChanged FINAL)
 
 public:
     enum class Surface { Today, Kept, Weekly, Archive, Sources };
@@ -113,13 +103,7 @@ public:
     QString errorText() const { return errorMessage().value_or(QString()); }
     bool hasErrorMessage() const { return errorMessage().has_value(); }
     QString intakeErrorText() const { return intakeErrorMessage().value_or(QString()); }
-    QString packSyncNoteText() const { return packSyncNote().value_or(QString()); }
     bool packSyncFailed() const;
-    QString syncHelp() const;
-    bool hasAvailableUpdate() const { return availableUpdate().has_value(); }
-    QString availableUpdateText() const;
-    QString availableUpdateHelp() const;
-    QString availableUpdateAddress() const;
 
     // Derived reads, cached until the content or the workspace changes
 
@@ -134,7 +118,7 @@ public:
 
     // Derived reads, computed anew on each call
 
-    qsizetype laneAllCount() const;
+    qsizetype laneAllCount() const { return visibleSignals().size(); }
     qsizetype laneCount(InformationLane lane) const;
     QList<InformationSignal> laneFilteredSignals() const;
     /// The lead cards of today.
@@ -147,6 +131,7 @@ public:
     QList<InformationSignal> keptSignals() const;
     QList<CustomInformationSource> keptCustomSources() const;
     double now() const { return m_collaborators.now(); }
+    QString siteHost() const { return m_collaborators.site.host(); }
     /// The address of a page of the product site.
     /// @param path below the site's base URL
     Q_INVOKABLE QString sitePage(const QString& path) const;

@@ -263,6 +263,19 @@ private Q_SLOTS:
         }
         QCOMPARE(ids, (QStringList{u"B"_qs, u"b"_qs, u"\uFFFD"_qs, u"\U0001F600"_qs}));
     }
+
+    void reducingHidesTheVersionAndItsLaneOnce()
+    {
+        auto signal = sampleSignal(u"a"_qs);
+        signal.lane = InformationLane::Workflow;
+        InformationWorkspace workspace;
+
+        workspace.reduceSimilar(signal);
+        workspace.reduceSimilar(signal);
+
+        QCOMPARE(workspace.hidden, QList{u"a@2026-09-01T00:00:00Z"_qs});
+        QCOMPARE(workspace.reducedLanes, QList{InformationLane::Workflow});
+    }
 };
 
 TEST_SUBJECT(InformationWorkspaceTest)

@@ -4,6 +4,7 @@ import QtQml
 import QtQuick
 import QtQuick.Window
 import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
 import CorvaniteInformation.State
 
 /// The program's window: header, the surface chosen, footer, and over them the receipt bar and the
@@ -35,6 +36,12 @@ Window {
         sheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench });
     }
 
+    FramePage {
+        id: framePage
+
+        workbench: window.workbench
+    }
+
     FocusScope {
         id: page
 
@@ -47,7 +54,7 @@ Window {
             anchors.left: parent.left
             anchors.right: parent.right
             window: window
-            workbench: window.workbench
+            page: framePage
         }
 
         WorkbenchHeader {
@@ -57,7 +64,7 @@ Window {
             anchors.left: parent.left
             anchors.right: parent.right
             window: window
-            workbench: window.workbench
+            page: framePage
             surfaces: [
                 SurfaceEntry {
                     surface: InformationModel.Today
@@ -106,7 +113,7 @@ Window {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            workbench: window.workbench
+            page: framePage
         }
 
         ReceiptBar {

@@ -2,13 +2,14 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
 import CorvaniteInformation.State
 
 /// The bottom of the window: where the reader's things are kept, and the links to the site.
 Rectangle {
     id: footer
 
-    required property InformationModel workbench
+    required property FramePage page
 
     readonly property int sideMargin: width >= 1040 ? 24 : 20
     readonly property bool oneRow: notes.width + 24 + links.width <= width - 2 * sideMargin
@@ -26,13 +27,13 @@ Rectangle {
     component SurfaceLink: FooterLink {
         required property int surface
 
-        onClicked: footer.workbench.surface = surface
+        onClicked: footer.page.workbench.surface = surface
     }
 
     component SiteLink: FooterLink {
-        required property string page
+        required property string path
 
-        onClicked: LinkOpener.open(footer.workbench.sitePage(page))
+        onClicked: LinkOpener.open(footer.page.workbench.sitePage(path))
     }
 
     Rectangle {
@@ -68,8 +69,8 @@ Rectangle {
             id: syncNote
 
             visible: text !== ""
-            text: footer.workbench.packSyncNote
-            color: footer.workbench.packSyncFailed ? InformationTheme.accent : InformationTheme.ink2
+            text: footer.page.syncNote
+            color: footer.page.syncFailed ? InformationTheme.accent : InformationTheme.ink2
             textStyle: InformationTheme.caption
             wrapMode: Text.NoWrap
 
@@ -114,22 +115,22 @@ Rectangle {
 
         SiteLink {
             text: "编辑方法"
-            page: "method"
+            path: "method"
         }
 
         SiteLink {
             text: "关于"
-            page: "about"
+            path: "about"
         }
 
         SiteLink {
             text: "管线状态"
-            page: "status"
+            path: "status"
         }
 
         SiteLink {
             text: "RSS"
-            page: "feed.xml"
+            path: "feed.xml"
         }
     }
 }

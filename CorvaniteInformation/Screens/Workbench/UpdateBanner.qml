@@ -1,19 +1,19 @@
 import QtQuick
 import QtQuick.Window
 import CorvaniteInformation.Controls
-import CorvaniteInformation.State
+import CorvaniteInformation.Pages
 
 /// Offers the newer build of the program, above the header; like it, it moves the window.
 Rectangle {
     id: banner
 
     required property Window window
-    required property InformationModel workbench
+    required property FramePage page
 
     /// Kept while the banner closes.
     property string message: ""
 
-    implicitHeight: workbench.hasAvailableUpdate ? 44 : 0
+    implicitHeight: page.hasUpdate ? 44 : 0
     visible: implicitHeight > 0
     clip: true
     color: InformationTheme.bannerWash
@@ -30,8 +30,8 @@ Rectangle {
     Binding {
         target: banner
         property: "message"
-        value: banner.workbench.availableUpdateText
-        when: banner.workbench.hasAvailableUpdate
+        value: banner.page.updateText
+        when: banner.page.hasUpdate
         restoreMode: Binding.RestoreNone
     }
 
@@ -70,12 +70,12 @@ Rectangle {
         QuietButton {
             anchors.verticalCenter: parent.verticalCenter
             text: "获取更新"
-            help: banner.workbench.availableUpdateHelp
+            help: banner.page.updateHelp
             restTint: InformationTheme.accent
             iconPath: IconPaths.arrowUpRight
             iconSize: 14
             iconTrails: true
-            onClicked: LinkOpener.open(banner.workbench.availableUpdateAddress)
+            onClicked: LinkOpener.open(banner.page.updateAddress)
         }
 
         IconButton {
@@ -83,7 +83,7 @@ Rectangle {
             text: "关闭更新提示"
             help: "关闭更新提示"
             iconPath: IconPaths.xMark
-            onClicked: banner.workbench.dismissUpdate()
+            onClicked: banner.page.workbench.dismissUpdate()
         }
     }
 

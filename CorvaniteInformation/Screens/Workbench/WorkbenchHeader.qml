@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Window
 import CorvaniteInformation.Controls
+import CorvaniteInformation.Pages
 import CorvaniteInformation.State
 
 /// The top of the window, which also moves it: brand, surface switcher, actions, window buttons.
@@ -9,7 +10,8 @@ Rectangle {
     id: header
 
     required property Window window
-    required property InformationModel workbench
+    required property FramePage page
+    readonly property InformationModel workbench: page.workbench
     property alias surfaces: switcher.surfaces
 
     readonly property bool wide: width >= 1040
@@ -69,7 +71,7 @@ Rectangle {
             SyncButton {
                 anchors.verticalCenter: parent.verticalCenter
                 running: header.workbench.isSyncingPack
-                help: (header.workbench.syncHelp + "\n" + header.workbench.packSyncNote).trim()
+                help: header.page.syncHelp
                 onClicked: header.workbench.refreshPackFromSite()
             }
 
