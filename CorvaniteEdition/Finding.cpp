@@ -1,0 +1,8 @@
+#include "Finding.h"
+
+QString Finding::line() const
+{
+    const QString severityText = severity == Severity::Error ? u"错误"_qs : u"提示"_qs;
+    const QString where = place.isEmpty() ? document : document + u':' + place;
+    return u"%1: %2：%3"_qs.arg(where, severityText, text);
+}
