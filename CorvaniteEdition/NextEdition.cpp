@@ -117,9 +117,10 @@ QJsonArray historyAfter(const QJsonArray& published, const QJsonArray& next, qsi
     return history;
 }
 
-QString later(const QString& one, const QString& other)
+/// Its own time where it has a later one than the published edition, else now.
+QString timeAfter(const QString& published, const QString& own, qint64 now)
 {
-    return codePointLess(one, other) ? other : one;
+    return codePointLess(published, own) ? own : FeedTime::stampOf(now);
 }
 
 } // namespace
@@ -132,7 +133,7 @@ std::expected<NextEdition, Finding> NextEdition::after(const EditionFolder& publ
     }
     const QJsonArray signalList = next.pack->root.value(u"signals").toArray();
     const QString publishedAsOf = published.pack->root.value(u"asOf").toString();
-    const QString asOf = later(FeedTime::stampOf(now), next.pack->root.value(u"asOf").toString());
+    const QString asOf = timeAfter(publishedAsOf, next.pack->root.value(u"asOf").toString(), now);
     if (!codePointLess(publishedAsOf, asOf)) {
         return std::unexpected(
             refusal(next.pack->name, member(root, "asOf"),

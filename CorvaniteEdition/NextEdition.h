@@ -13,7 +13,8 @@ struct NextEdition
     qsizetype leftCount;
 
     /// The new pack's signals as they are; its days after the days that were published; whatever
-    /// was published and is not in it retired. Its as-of is now, or its own where that is later.
+    /// was published and is not in it retired. Its as-of is its own where that is later than the
+    /// published one, else now.
     /// @param now milliseconds since 1970-01-01T00:00:00Z
     static std::expected<NextEdition, Finding> after(const EditionFolder& published,
                                                      const EditionFolder& next, qint64 now);

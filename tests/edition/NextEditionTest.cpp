@@ -47,8 +47,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("written");
         QTest::addColumn<QString>("asOf");
 
-        QTest::newRow("now") << u"2026-08-27T00:00:00.000Z"_qs << u"2026-08-28T04:00:00.000Z"_qs;
-        QTest::newRow("later") << u"2026-08-28T05:00:00.000Z"_qs << u"2026-08-28T05:00:00.000Z"_qs;
+        const QString nowStamp = u"2026-08-28T04:00:00.000Z"_qs;
+        QTest::newRow("earlier") << u"2026-08-27T00:00:00.000Z"_qs << nowStamp;
+        QTest::newRow("same") << u"2026-08-27T04:01:03.784Z"_qs << nowStamp;
+        QTest::newRow("later") << u"2026-08-27T04:01:03.785Z"_qs << u"2026-08-27T04:01:03.785Z"_qs;
+        QTest::newRow("after now")
+            << u"2026-08-28T05:00:00.000Z"_qs << u"2026-08-28T05:00:00.000Z"_qs;
     }
 
     void advancesTheTime()

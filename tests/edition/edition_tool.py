@@ -11,12 +11,12 @@ RETIRED = "retired-signals.json"
 APP_VERSION = "information-app-version.json"
 REGISTRY = "registry-sources.json"
 
-_program = sys.argv[1]
+PROGRAM = Path(sys.argv[1]).resolve()
 sys.argv[1:] = sys.argv[2:]
 
 
 def call(*arguments, cwd=None) -> subprocess.CompletedProcess:
-    return subprocess.run([_program, *map(str, arguments)], capture_output=True, text=True,
+    return subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, text=True,
                           cwd=cwd, timeout=60)
 
 
