@@ -15,5 +15,9 @@ int main(int argc, char* argv[])
     QTextStream messages(stderr);
     const QString siteHost = QUrl(QStringLiteral(CORVANITE_SITE_ORIGIN)).host(QUrl::FullyEncoded);
     EditionCommands commands(output, messages, QDateTime::currentMSecsSinceEpoch(), siteHost);
-    return commands.run(arguments);
+    const int exitCode = commands.run(arguments);
+    output.flush();
+    // What was asked for and did not arrive is no success: a full disk behind a redirection.
+    const bool hasArrived = output.status() == QTextStream::Ok && std::fflush(stdout) == 0;
+    return hasArrived ? exitCode : EditionCommands::problemFound;
 }

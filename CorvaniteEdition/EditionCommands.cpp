@@ -1,6 +1,5 @@
 #include "EditionCommands.h"
 
-#include "CodePointOrder.h"
 #include "DraftPack.h"
 #include "EditionCheck.h"
 #include "EditionDiff.h"
@@ -51,6 +50,14 @@ std::expected<EditionFolder, Finding> folderWithPack(const QString& path)
             error(folder->pack->name, u"程序不收这个信息包：请先用 check 检查"_qs));
     }
     return folder;
+}
+
+/// Also where there is no telling.
+bool isNewer(const EditionDocument& pack, const EditionDocument& than)
+{
+    const auto snapshot = InformationPackSync::parse(pack.bytes);
+    const auto other = InformationPackSync::parse(than.bytes);
+    return !snapshot || !other || snapshot->isNewer(other->asOf);
 }
 
 } // namespace
@@ -200,6 +207,9 @@ int EditionCommands::site(const QString& folder)
         return refuse(*trouble);
     }
     m_output << u"已布置到 %1\n"_qs.arg(folder);
+    if (published && published->pack && !isNewer(*edition->pack, *published->pack)) {
+        m_output << u"它的 asOf 不晚于原来的一版：已经同步过的读者不会换成它\n"_qs;
+    }
     return done;
 }
 

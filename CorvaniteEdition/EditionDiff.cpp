@@ -2,6 +2,7 @@
 
 #include "InformationPackSync.h"
 #include "InformationUpdateNotice.h"
+#include "TerminalText.h"
 
 #include <QHash>
 #include <QSet>
@@ -189,9 +190,12 @@ QStringList EditionDiff::lines(const EditionFolder& before, const EditionFolder&
             changed.append(changeLine(*earlier, signal));
         }
     }
-    return QStringList{syncLine(old, now)} + section(u"新来 %1 张"_qs, arrived) +
-           section(u"变化 %1 张"_qs, changed) +
-           section(u"离开 %1 张"_qs, departureLines(old, nowById, byId(retiredOf(after)))) +
-           orderLines(old, now, oldById, nowById) + section(u"往期 %1 天"_qs, dayLines(old, now)) +
-           versionLines(before, after);
+    QStringList told =
+        QStringList{syncLine(old, now)} + section(u"新来 %1 张"_qs, arrived) +
+        section(u"变化 %1 张"_qs, changed) +
+        section(u"离开 %1 张"_qs, departureLines(old, nowById, byId(retiredOf(after)))) +
+        orderLines(old, now, oldById, nowById) + section(u"往期 %1 天"_qs, dayLines(old, now)) +
+        versionLines(before, after);
+    std::ranges::transform(told, told.begin(), TerminalText::of);
+    return told;
 }

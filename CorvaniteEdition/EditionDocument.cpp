@@ -3,6 +3,7 @@
 #include "InformationPackSync.h"
 #include "InformationUpdateNotice.h"
 #include "JsonPlace.h"
+#include "TextPlace.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -56,15 +57,6 @@ std::optional<DocumentKind> kindOf(const QString& name, const QJsonObject& root)
     return shaped == kindSigns.end() ? std::nullopt : std::optional(shaped->kind);
 }
 
-/// Line and column, both from 1; the column in characters.
-QString textPlace(const QByteArray& bytes, qsizetype offset)
-{
-    const QByteArray before = bytes.first(std::clamp<qsizetype>(offset, 0, bytes.size()));
-    const qsizetype lineStart = before.lastIndexOf('\n') + 1;
-    const qsizetype column = QString::fromUtf8(before.sliced(lineStart)).size() + 1;
-    return u"第 %1 行第 %2 列"_qs.arg(before.count('\n') + 1).arg(column);
-}
-
 } // namespace
 
 qsizetype EditionDocument::maximumBytes(DocumentKind kind)
@@ -91,7 +83,7 @@ std::expected<EditionDocument, Finding> EditionDocument::read(const QString& nam
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError) {
-        return refusal(textPlace(bytes, error.offset),
+        return refusal(TextPlace::of(bytes, error.offset),
                        u"从这里起不是 JSON：请检查引号、逗号、括号和 UTF-8 编码"_qs);
     }
     if (!document.isObject()) {

@@ -5,6 +5,9 @@
 
 std::expected<Feed, Finding> FeedReader::read(const QString& file, const QByteArray& bytes)
 {
-    const bool isJson = bytes.trimmed().startsWith('{');
-    return isJson ? JsonFeed::read(file, bytes) : XmlFeed::read(file, bytes);
+    const QByteArray byteOrderMark("\xEF\xBB\xBF");
+    const QByteArray text =
+        bytes.startsWith(byteOrderMark) ? bytes.sliced(byteOrderMark.size()) : bytes;
+    const bool isJson = text.trimmed().startsWith('{');
+    return isJson ? JsonFeed::read(file, text) : XmlFeed::read(file, text);
 }

@@ -4,6 +4,7 @@
 #include "FeedTime.h"
 #include "JsonPlace.h"
 #include "PlainText.h"
+#include "TextPlace.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -45,9 +46,11 @@ std::expected<Feed, Finding> JsonFeed::read(const QString& file, const QByteArra
     const auto refusal = [&](const QString& place, const QString& text) {
         return std::unexpected(Finding{Finding::Severity::Error, file, place, text});
     };
-    const QJsonObject root = QJsonDocument::fromJson(bytes).object();
-    if (root.isEmpty()) {
-        return refusal(JsonPlace::root, u"不是 JSON：请重新保存完整的订阅源"_qs);
+    QJsonParseError error;
+    const QJsonObject root = QJsonDocument::fromJson(bytes, &error).object();
+    if (error.error != QJsonParseError::NoError) {
+        return refusal(TextPlace::of(bytes, error.offset),
+                       u"从这里起不是 JSON：请重新保存完整的订阅源"_qs);
     }
     if (!root.value(u"version").toString().startsWith(u"https://jsonfeed.org/version/1")) {
         return refusal(JsonPlace::member(JsonPlace::root, "version"),

@@ -3,6 +3,7 @@
 #include "FeedLink.h"
 #include "FeedTime.h"
 #include "PlainText.h"
+#include "TextPlace.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>
@@ -303,10 +304,9 @@ std::expected<Feed, Finding> walk(const QString& file, QXmlStreamReader&& xml, c
     xml.setEntityResolver(&htmlNames);
     Feed feed = Walk(xml, base).feed();
     if (xml.hasError()) {
-        return std::unexpected(
-            Finding{Finding::Severity::Error, file,
-                    u"第 %1 行第 %2 列"_qs.arg(xml.lineNumber()).arg(xml.columnNumber() + 1),
-                    explanation(xml)});
+        return std::unexpected(Finding{Finding::Severity::Error, file,
+                                       TextPlace::at(xml.lineNumber(), xml.columnNumber() + 1),
+                                       explanation(xml)});
     }
     feed.file = file;
     return feed;

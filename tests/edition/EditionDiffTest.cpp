@@ -20,7 +20,7 @@ private Q_SLOTS:
         QJsonArray signalList = SeedFolder::packSignals(m_seed);
         const QJsonObject uv = SeedFolder::with(
             signalList.takeAt(2),
-            {{u"id"_qs, u"uv-next"_qs}, {u"title"_qs, QJsonObject{{u"zh"_qs, u"uv 又一版"_qs}}}});
+            {{u"id"_qs, u"uv-next"_qs}, {u"title"_qs, QJsonObject{{u"zh"_qs, u"uv\n又一版"_qs}}}});
         signalList.append(uv);
         signalList.replace(
             0,
@@ -47,7 +47,7 @@ private Q_SLOTS:
                  (QStringList{
                      u"按下“同步站点”后显示“已同步 22 条 · 2026-08-28”"_qs,
                      u"新来 1 张"_qs,
-                     u"  · uv 又一版（开源增长，uv-next）：续到已有的脉络"_qs,
+                     u"  · uv\uFFFD又一版（开源增长，uv-next）：续到已有的脉络"_qs,
                      u"变化 2 张"_qs,
                      u"  · 换名（工作流与方法，product-hunt-chatcut-ai-video-editor）：栏目、标题；"
                      "核验时间没变，隐藏过它的读者看不到这次变化"_qs,

@@ -214,6 +214,11 @@ class CheckTest(unittest.TestCase):
         put(documents[PACK], [*FIRST, "lane"], "")
         self.assertTrue(self.check(documents).stdout.endswith("\n1 处错误，1 处提示\n"))
 
+    def test_nothing_in_a_document_steers_the_terminal(self):
+        documents = self.changed(PACK, ["asOf"], "a\x1b[2J\n\u202eb")
+        self.assertIn(f"{PACK}:$.asOf: 错误：“a\ufffd[2J\ufffd\ufffdb”不是时间",
+                      self.check(documents).stdout)
+
     def test_recognises_documents_by_what_they_hold(self):
         names = {PACK: "a.json", RETIRED: "b.json", REGISTRY: "c.json", APP_VERSION: "d.json"}
         documents = {names[name]: document for name, document in self.edition().items()}

@@ -2,10 +2,11 @@
 """`corvanite-edition draft`, and how the program is called. Argument: the program."""
 
 import json
+import subprocess
 import unittest
 from pathlib import Path
 
-from edition_tool import call
+from edition_tool import PROGRAM, call
 
 FEEDS = Path(__file__).resolve().parent / "feeds"
 
@@ -22,6 +23,11 @@ class DraftTest(unittest.TestCase):
         result = call("draft", FEEDS / "rss.xml", FEEDS / "cut-short.xml", FEEDS / "atom.xml")
         self.assertEqual((1, ""), (result.returncode, result.stdout))
         self.assertIn("cut-short.xml:第 2 行第 25 列: 错误：文件到这里就断了", result.stderr)
+
+    def test_says_when_the_draft_did_not_arrive(self):
+        with open("/dev/full", "w") as full:
+            result = subprocess.run([PROGRAM, "draft", FEEDS / "rss.xml"], stdout=full, timeout=60)
+        self.assertEqual(1, result.returncode)
 
     def test_answers_wrong_calls(self):
         for arguments in [[], ["publish"], ["draft"], ["next", "a"], ["diff", "a", "b", "c"],

@@ -60,13 +60,16 @@ class PublishingTest(unittest.TestCase):
     def test_keeps_the_edition_before_beside(self):
         self.lay_out()
         write(self.work, PACK, seed(PACK) | {"asOf": "2026-08-27T05:00:00.000Z"})
+        self.assertNotIn("不会换成它", self.lay_out().stdout)
         for _ in range(2):
             self.assertEqual(0, self.lay_out().returncode)
             previous = Path(f"{self.site}.previous")
             self.assertEqual((SEED / PACK).read_bytes(), (previous / PACK).read_bytes())
             subprocess.run(["sha256sum", "--check", "--strict", "--quiet", SUMS], cwd=previous,
                            check=True)
-        self.assertEqual(0, call("site", self.site, cwd=f"{self.site}.previous").returncode)
+        back = call("site", self.site, cwd=f"{self.site}.previous")
+        self.assertEqual(0, back.returncode)
+        self.assertIn("已经同步过的读者不会换成它", back.stdout)
         self.assertEqual((SEED / PACK).read_bytes(), (self.site / PACK).read_bytes())
 
     def test_carries_the_version_document_on(self):
