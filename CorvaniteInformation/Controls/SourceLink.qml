@@ -64,7 +64,7 @@ AppButton {
         anchors.bottom: label.bottom
         anchors.bottomMargin: (link.textStyle.lineHeight - height) / 2
         visible: link.enabled && link.hasArrow
-        path: IconPaths.arrowUpRight
+        path: IconPaths.openOutside
         size: 14
         color: link.tint
     }

@@ -104,7 +104,7 @@ AppButton {
 
             Icon {
                 anchors.verticalCenter: parent.verticalCenter
-                path: IconPaths.chevronRight
+                path: IconPaths.onward
                 size: 14
                 color: InformationTheme.accent
             }

@@ -98,7 +98,7 @@ Item {
                 anchors.right: parent.right
                 visible: source.enabled
                 text: "看原文"
-                iconPath: IconPaths.arrowUpRight
+                iconPath: IconPaths.openOutside
                 Accessible.description: section.row.title
                 onClicked: LinkOpener.open(section.row.address)
             }

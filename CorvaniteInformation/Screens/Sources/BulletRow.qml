@@ -12,7 +12,7 @@ Item {
 
     Icon {
         y: (InformationTheme.body.lineHeight - height) / 2
-        path: IconPaths.circleFill
+        path: IconPaths.bullet
         filled: true
         size: 8
         color: InformationTheme.accent

@@ -32,7 +32,7 @@ Column {
             anchors.right: parent.right
             anchors.bottom: header.bottom
             text: "网页版"
-            iconPath: IconPaths.arrowUpRight
+            iconPath: IconPaths.openOutside
             onClicked: LinkOpener.open(section.workbench.sitePage("sources"))
         }
 

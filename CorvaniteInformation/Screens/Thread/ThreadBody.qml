@@ -76,7 +76,7 @@ PageList {
 
                     CitrineButton {
                         text: "看最新原文"
-                        iconPath: IconPaths.arrowUpRight
+                        iconPath: IconPaths.openOutside
                         iconStroke: 2.25
                         iconTrails: true
                         onClicked: LinkOpener.open(body.page.originalAddress)

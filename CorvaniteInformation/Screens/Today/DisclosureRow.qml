@@ -48,7 +48,7 @@ AppButton {
         anchors.verticalCenter: parent.verticalCenter
         anchors.right: parent.right
         anchors.rightMargin: 24
-        path: IconPaths.chevronDown
+        path: IconPaths.unfold
         size: 18
         rotation: row.open ? 180 : 0
 

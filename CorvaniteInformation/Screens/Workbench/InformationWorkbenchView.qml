@@ -62,27 +62,27 @@ Window {
                 SurfaceEntry {
                     surface: InformationModel.Today
                     label: "今天"
-                    iconPath: IconPaths.sparkles
+                    iconPath: IconPaths.today
                 },
                 SurfaceEntry {
                     surface: InformationModel.Kept
                     label: "已收下"
-                    iconPath: IconPaths.squareStack
+                    iconPath: IconPaths.kept
                 },
                 SurfaceEntry {
                     surface: InformationModel.Weekly
                     label: "周报"
-                    iconPath: IconPaths.calendar
+                    iconPath: IconPaths.weekly
                 },
                 SurfaceEntry {
                     surface: InformationModel.Archive
                     label: "往期"
-                    iconPath: IconPaths.clockArrowCirclepath
+                    iconPath: IconPaths.archive
                 },
                 SurfaceEntry {
                     surface: InformationModel.Sources
                     label: "信源"
-                    iconPath: IconPaths.antennaRadiowavesLeftAndRight
+                    iconPath: IconPaths.sources
                 }
             ]
             onHandInRequested: window.openHandIn()

@@ -121,7 +121,7 @@ Item {
         IconButton {
             anchors.verticalCenter: parent.verticalCenter
             text: "关闭回执"
-            iconPath: IconPaths.xMark
+            iconPath: IconPaths.close
             onClicked: bar.workbench.dismissReceipt()
         }
     }

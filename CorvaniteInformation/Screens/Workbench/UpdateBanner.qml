@@ -43,7 +43,7 @@ Rectangle {
     Icon {
         x: 24
         anchors.verticalCenter: parent.verticalCenter
-        path: IconPaths.arrowDownCircleFill
+        path: IconPaths.newerBuild
         filled: true
         size: 18
         color: InformationTheme.accent
@@ -72,7 +72,7 @@ Rectangle {
             text: "获取更新"
             help: banner.workbench.availableUpdateHelp
             restTint: InformationTheme.accent
-            iconPath: IconPaths.arrowUpRight
+            iconPath: IconPaths.openOutside
             iconSize: 14
             iconTrails: true
             onClicked: LinkOpener.open(banner.workbench.availableUpdateAddress)
@@ -82,7 +82,7 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             text: "关闭更新提示"
             help: "关闭更新提示"
-            iconPath: IconPaths.xMark
+            iconPath: IconPaths.close
             onClicked: banner.workbench.dismissUpdate()
         }
     }

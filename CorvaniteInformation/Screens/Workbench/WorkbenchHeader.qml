@@ -75,7 +75,7 @@ Rectangle {
 
             CitrineButton {
                 text: "添加信息"
-                iconPath: IconPaths.plus
+                iconPath: IconPaths.add
                 iconStroke: 2.25
                 onClicked: header.handInRequested()
             }
