@@ -31,9 +31,7 @@ AppButton {
 
     onClicked: LinkOpener.open(link.address)
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     // A text's own implicit width would change with the width that is made from it.
     TextMetrics {

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-/// One place of the today surface's column, or of the list of everything beside it.
+/// One place of the today surface's column, or of the list of everything.
 struct TodayEntry
 {
     Q_GADGET
@@ -18,7 +18,6 @@ struct TodayEntry
     Q_PROPERTY(bool isDisclosure READ isDisclosure CONSTANT FINAL)
     Q_PROPERTY(bool isRailHeading READ isRailHeading CONSTANT FINAL)
     Q_PROPERTY(bool isRailLine READ isRailLine CONSTANT FINAL)
-    Q_PROPERTY(bool isRailEnd READ isRailEnd CONSTANT FINAL)
     Q_PROPERTY(bool isOfRail READ isOfRail CONSTANT FINAL)
     Q_PROPERTY(SignalCardRow card MEMBER card CONSTANT FINAL)
     Q_PROPERTY(RailRow rail MEMBER rail CONSTANT FINAL)
@@ -31,9 +30,7 @@ public:
         /// Opens and closes the remaining cards.
         Disclosure,
         RailHeading,
-        RailLine,
-        /// The data receipt.
-        RailEnd
+        RailLine
     };
 
     Kind kind = Kind::Intro;
@@ -47,8 +44,7 @@ public:
     bool isDisclosure() const { return kind == Kind::Disclosure; }
     bool isRailHeading() const { return kind == Kind::RailHeading; }
     bool isRailLine() const { return kind == Kind::RailLine; }
-    bool isRailEnd() const { return kind == Kind::RailEnd; }
-    bool isOfRail() const { return isRailHeading() || isRailLine() || isRailEnd(); }
+    bool isOfRail() const { return isRailHeading() || isRailLine(); }
 
     QString key() const
     {

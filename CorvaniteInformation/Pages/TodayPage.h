@@ -19,11 +19,6 @@ class TodayPage : public WorkbenchPage
     /// The remaining cards are shown too.
     Q_PROPERTY(bool showingRemaining READ showingRemaining WRITE setShowingRemaining NOTIFY
                    showingRemainingChanged FINAL)
-    /// The list of everything follows the cards instead of standing beside them.
-    Q_PROPERTY(bool railBelow READ railBelow WRITE setRailBelow NOTIFY railBelowChanged FINAL)
-    /// The list of everything does not end in the data receipt: it has a place of its own.
-    Q_PROPERTY(bool receiptPinned READ receiptPinned WRITE setReceiptPinned NOTIFY
-                   receiptPinnedChanged FINAL)
 
     Q_PROPERTY(QString eyebrow READ eyebrow CONSTANT FINAL)
     Q_PROPERTY(QString title READ title NOTIFY textsChanged FINAL)
@@ -42,7 +37,7 @@ class TodayPage : public WorkbenchPage
     Q_PROPERTY(QAbstractItemModel* lanes READ lanes CONSTANT FINAL)
     /// Rows of `todayEntry`: the column from top to bottom.
     Q_PROPERTY(QAbstractItemModel* entries READ entries CONSTANT FINAL)
-    /// Rows of `todayEntry`: the list of everything where it stands beside the column.
+    /// Rows of `todayEntry`: the list of everything.
     Q_PROPERTY(QAbstractItemModel* railEntries READ railEntries CONSTANT FINAL)
 
 public:
@@ -50,10 +45,6 @@ public:
 
     bool showingRemaining() const { return m_showingRemaining; }
     void setShowingRemaining(bool showing);
-    bool railBelow() const { return m_railBelow; }
-    void setRailBelow(bool below);
-    bool receiptPinned() const { return m_receiptPinned; }
-    void setReceiptPinned(bool pinned);
 
     static QString eyebrow();
     const QString& title() const { return m_texts.title; }
@@ -75,8 +66,6 @@ public:
 
 Q_SIGNALS:
     void showingRemainingChanged();
-    void railBelowChanged();
-    void receiptPinnedChanged();
     void textsChanged();
 
 protected:
@@ -97,15 +86,7 @@ private:
         friend bool operator==(const Texts&, const Texts&) = default;
     };
 
-    QList<TodayEntry> column(const InformationModel& workbench,
-                             const QList<InformationSignal>& focused,
-                             const QList<InformationSignal>& remaining) const;
-    QList<TodayEntry> rail(const InformationModel& workbench,
-                           const QList<InformationSignal>& signals) const;
-
     bool m_showingRemaining = false;
-    bool m_railBelow = false;
-    bool m_receiptPinned = false;
     Texts m_texts;
     RowListModel<LaneChipRow> m_lanes;
     RowListModel<TodayEntry> m_entries;

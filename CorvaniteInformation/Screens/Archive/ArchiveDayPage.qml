@@ -17,7 +17,7 @@ PageList {
     Connections {
         target: list.page
         function onDayChanged() {
-            list.scrollToTop();
+            list.scroller.scrollToTop();
         }
     }
 

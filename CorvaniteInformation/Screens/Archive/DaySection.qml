@@ -22,9 +22,7 @@ AppButton {
 
     onClicked: section.opened()
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     Column {
         id: date

@@ -10,9 +10,7 @@ Item {
 
     implicitHeight: content.y + content.height + 20
 
-    Rectangle {
-        width: parent.width
-        height: 1
+    Hairline {
         color: InformationTheme.hairStrong
     }
 

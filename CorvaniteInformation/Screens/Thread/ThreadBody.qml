@@ -111,11 +111,8 @@ PageList {
                 topPadding: body.page.hasSources ? 12 : 20
                 spacing: 16
 
-                Rectangle {
-                    width: parent.width
-                    height: 1
+                Hairline {
                     visible: !body.page.hasSources
-                    color: InformationTheme.hair
                 }
 
                 KeptNote {

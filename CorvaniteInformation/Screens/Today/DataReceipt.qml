@@ -10,9 +10,7 @@ Column {
 
     required property TodayPage page
 
-    Rectangle {
-        width: parent.width
-        height: 1
+    Hairline {
         color: InformationTheme.hairStrong
     }
 

@@ -17,9 +17,7 @@ AppButton {
     Accessible.name: row.text + "，" + row.note
     Accessible.description: row.open ? "已展开" : "已收起"
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     Column {
         id: texts

@@ -37,9 +37,7 @@ AppButton {
             stepped((event.key === Qt.Key_Home ? 0 : count - 1) - row.position);
     }
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     AppText {
         id: number

@@ -27,12 +27,12 @@ Window {
     // After the first frame, which nothing may delay; the model sees to it that it happens once.
     onFrameSwapped: workbench.probeAppUpdateOnce()
 
-    function openThread(signalId: string) {
-        sheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench, signalId });
-    }
+    readonly property bool threadOpen: workbench.hasOpenThread
+    onThreadOpenChanged: if (threadOpen)
+        threadSheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench })
 
     function openHandIn() {
-        sheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench });
+        handInSheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench });
     }
 
     FocusScope {
@@ -97,7 +97,6 @@ Window {
             anchors.bottom: footer.top
             focus: true
             workbench: window.workbench
-            onThreadRequested: signalId => window.openThread(signalId)
         }
 
         SiteFooter {
@@ -119,7 +118,11 @@ Window {
     }
 
     SheetLoader {
-        id: sheet
+        id: threadSheet
+    }
+
+    SheetLoader {
+        id: handInSheet
     }
 
     ErrorAlert {

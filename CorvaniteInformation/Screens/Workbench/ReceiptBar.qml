@@ -60,20 +60,14 @@ Item {
         }
     ]
 
-    Binding {
-        target: bar
-        property: "message"
-        value: bar.workbench.receipt
+    LastingBinding on message {
         when: bar.workbench.hasReceipt
-        restoreMode: Binding.RestoreNone
+        value: bar.workbench.receipt
     }
 
-    Binding {
-        target: bar
-        property: "undoable"
-        value: bar.workbench.canUndo
+    LastingBinding on undoable {
         when: bar.workbench.hasReceipt
-        restoreMode: Binding.RestoreNone
+        value: bar.workbench.canUndo
     }
 
     RaisedGround {

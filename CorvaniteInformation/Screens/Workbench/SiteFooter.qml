@@ -35,11 +35,7 @@ Rectangle {
         onClicked: LinkOpener.open(footer.workbench.sitePage(page))
     }
 
-    Rectangle {
-        width: parent.width
-        height: 1
-        color: InformationTheme.hair
-    }
+    Hairline {}
 
     Row {
         id: notes

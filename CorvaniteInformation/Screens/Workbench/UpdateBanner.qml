@@ -27,12 +27,9 @@ Rectangle {
         }
     }
 
-    Binding {
-        target: banner
-        property: "message"
-        value: banner.workbench.availableUpdateText
+    LastingBinding on message {
         when: banner.workbench.hasAvailableUpdate
-        restoreMode: Binding.RestoreNone
+        value: banner.workbench.availableUpdateText
     }
 
     WindowMover {
@@ -87,10 +84,7 @@ Rectangle {
         }
     }
 
-    Rectangle {
+    Hairline {
         anchors.bottom: parent.bottom
-        width: parent.width
-        height: 1
-        color: InformationTheme.hair
     }
 }

@@ -89,10 +89,7 @@ Rectangle {
         }
     }
 
-    Rectangle {
+    Hairline {
         anchors.bottom: parent.bottom
-        width: parent.width
-        height: 1
-        color: InformationTheme.hair
     }
 }
