@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RailRow.h"
+#include "RailLineRow.h"
 #include "SignalCardRow.h"
 
 #include <QObject>
@@ -20,7 +20,7 @@ struct TodayEntry
     Q_PROPERTY(bool isRailLine READ isRailLine CONSTANT FINAL)
     Q_PROPERTY(bool isOfRail READ isOfRail CONSTANT FINAL)
     Q_PROPERTY(SignalCardRow card MEMBER card CONSTANT FINAL)
-    Q_PROPERTY(RailRow rail MEMBER rail CONSTANT FINAL)
+    Q_PROPERTY(RailLineRow rail MEMBER rail CONSTANT FINAL)
 
 public:
     enum class Kind {
@@ -37,7 +37,7 @@ public:
     /// With `Kind::Card`.
     SignalCardRow card;
     /// With `Kind::RailLine`.
-    RailRow rail;
+    RailLineRow rail;
 
     bool isIntro() const { return kind == Kind::Intro; }
     bool isCard() const { return kind == Kind::Card; }

@@ -8,7 +8,7 @@
 
 namespace {
 
-QList<DataReceiptRow> dataReceipt(qsizetype shown, qsizetype focused)
+QList<LabelledTextRow> dataReceipt(qsizetype shown, qsizetype focused)
 {
     return {{QString::number(WorkbenchTexts::checkedItemCount), u"条公开信息已检查"_qs},
             {QString::number(shown), u"条值得看"_qs},
@@ -63,7 +63,7 @@ QList<TodayEntry> rail(const QList<InformationSignal>& signals, const SeenTarget
     rail.reserve(signals.size() + 1);
     for (int position = 0; const auto& signal : signals) {
         TodayEntry line = entryOf(TodayEntry::Kind::RailLine);
-        line.rail = RailRow::from(signal, seen.contains(signal.followTarget.id), position++);
+        line.rail = RailLineRow::from(signal, seen.contains(signal.followTarget.id), position++);
         rail.append(line);
     }
     return rail;
@@ -125,10 +125,7 @@ void TodayPage::show(const InformationModel& workbench)
     texts.receiptRows = dataReceipt(filtered.size(), focused.size());
     texts.railCount = static_cast<int>(filtered.size());
     texts.empty = visibleCount == 0;
-    if (m_texts != texts) {
-        m_texts = std::move(texts);
-        Q_EMIT textsChanged();
-    }
+    m_texts = std::move(texts);
 
     const auto seen = seenTargets(workbench);
     QList<TodayEntry> column{entryOf(TodayEntry::Kind::Intro)};

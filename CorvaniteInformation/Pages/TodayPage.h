@@ -1,12 +1,13 @@
 #pragma once
 
-#include "DataReceiptRow.h"
+#include "LabelledTextRow.h"
 #include "LaneChipRow.h"
 #include "RowListModel.h"
 #include "TodayEntry.h"
 #include "WorkbenchPage.h"
 
 #include <QList>
+#include <QProperty>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
@@ -30,7 +31,7 @@ class TodayPage : public WorkbenchPage
     Q_PROPERTY(bool empty READ empty NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString remainingTitle READ remainingTitle NOTIFY textsChanged FINAL)
     Q_PROPERTY(int railCount READ railCount NOTIFY textsChanged FINAL)
-    Q_PROPERTY(QList<DataReceiptRow> receiptRows READ receiptRows NOTIFY textsChanged FINAL)
+    Q_PROPERTY(QList<LabelledTextRow> receiptRows READ receiptRows NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString updatedText READ updatedText CONSTANT FINAL)
 
     /// Rows of `laneChipRow`.
@@ -47,14 +48,14 @@ public:
     void setShowingRemaining(bool showing);
 
     static QString eyebrow();
-    const QString& title() const { return m_texts.title; }
-    const QString& lead() const { return m_texts.lead; }
-    bool adjusted() const { return !m_texts.preferenceStatus.isEmpty(); }
-    const QString& preferenceStatus() const { return m_texts.preferenceStatus; }
-    bool empty() const { return m_texts.empty; }
-    const QString& remainingTitle() const { return m_texts.remainingTitle; }
-    int railCount() const { return m_texts.railCount; }
-    const QList<DataReceiptRow>& receiptRows() const { return m_texts.receiptRows; }
+    const QString& title() const { return m_texts.value().title; }
+    const QString& lead() const { return m_texts.value().lead; }
+    bool adjusted() const { return !m_texts.value().preferenceStatus.isEmpty(); }
+    const QString& preferenceStatus() const { return m_texts.value().preferenceStatus; }
+    bool empty() const { return m_texts.value().empty; }
+    const QString& remainingTitle() const { return m_texts.value().remainingTitle; }
+    int railCount() const { return m_texts.value().railCount; }
+    const QList<LabelledTextRow>& receiptRows() const { return m_texts.value().receiptRows; }
     static QString updatedText();
 
     RowListModel<LaneChipRow>* lanes() { return &m_lanes; }
@@ -79,7 +80,7 @@ private:
         QString lead;
         QString preferenceStatus;
         QString remainingTitle;
-        QList<DataReceiptRow> receiptRows;
+        QList<LabelledTextRow> receiptRows;
         int railCount = 0;
         bool empty = false;
 
@@ -87,7 +88,7 @@ private:
     };
 
     bool m_showingRemaining = false;
-    Texts m_texts;
+    Q_OBJECT_BINDABLE_PROPERTY(TodayPage, TodayPage::Texts, m_texts, &TodayPage::textsChanged)
     RowListModel<LaneChipRow> m_lanes;
     RowListModel<TodayEntry> m_entries;
     RowListModel<TodayEntry> m_railEntries;

@@ -42,11 +42,11 @@ QStringList textsOf(const RowListModel<LaneChipRow>& chips)
     return texts;
 }
 
-QStringList textsOf(const QList<DataReceiptRow>& rows)
+QStringList textsOf(const QList<LabelledTextRow>& rows)
 {
     QStringList texts;
     for (const auto& row : rows) {
-        texts.append(row.text());
+        texts.append(row.name());
     }
     return texts;
 }

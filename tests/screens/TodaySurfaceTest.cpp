@@ -141,6 +141,15 @@ private Q_SLOTS:
         QVERIFY(window().hasFocus(u"打开脉络：Title of a"_qs, QAccessible::Button));
     }
 
+    void aCardKeepsTheFocusWhileThePanesChange()
+    {
+        focus(u"Title of b"_qs, QAccessible::ListItem);
+        for (const QSize size : {QSize(760, 560), QSize(1120, 560)}) {
+            window().resize(size);
+            QVERIFY(window().hasFocus(u"Title of b"_qs, QAccessible::ListItem));
+        }
+    }
+
 private:
     WorkbenchWindow& window() { return m_visit->window(); }
     InformationModel& model() { return m_visit->model(); }

@@ -38,7 +38,7 @@ PageList {
         width: list.width
         implicitHeight: section.height
 
-        FocusSection {
+        ArchiveFocus {
             id: section
 
             x: list.columnX

@@ -65,7 +65,7 @@ Column {
             Repeater {
                 model: section.page.registry
 
-                RegistryRow {
+                SourceEntry {
                     required property sourceEntryRow modelData
                     required property int index
 

@@ -6,7 +6,7 @@ import CorvaniteInformation.Pages
 AppButton {
     id: line
 
-    required property railRow row
+    required property railLineRow row
     /// How many lines the list has.
     required property int count
     /// The one line of the list at which the Tab key stops.

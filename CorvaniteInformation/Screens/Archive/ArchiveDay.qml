@@ -80,8 +80,8 @@ AppButton {
             Repeater {
                 model: section.row.entries
 
-                ArchiveEntry {
-                    required property archiveEntryRow modelData
+                ArchiveDayEntry {
+                    required property dayEntryRow modelData
 
                     width: list.width
                     row: modelData
