@@ -8,7 +8,7 @@ TestCase {
     name: "LastingBindingTest"
 
     property string note: ""
-    property string shown: "nothing yet"
+    property string shown
 
     LastingBinding on shown {
         when: test.note !== ""
@@ -16,7 +16,7 @@ TestCase {
     }
 
     function test_lastsWhenItsConditionEnds() {
-        compare(shown, "nothing yet");
+        compare(shown, "");
         note = "first";
         compare(shown, "first");
         note = "second";

@@ -13,7 +13,7 @@ Sheet {
     required property InformationModel workbench
 
     /// Kept while the sheet fades out.
-    property string signalId: ""
+    property string signalId
 
     readonly property int sideMargin: 32
 

@@ -9,7 +9,7 @@ Sheet {
     required property InformationModel workbench
 
     /// Kept while the alert fades out.
-    property string message: ""
+    property string message
 
     width: 420
     padding: 28

@@ -11,8 +11,8 @@ Item {
     required property real maximumWidth
 
     /// Both are kept while the bar slides out.
-    property string message: ""
-    property bool undoable: false
+    property string message
+    property bool undoable
 
     property real sunk: InformationTheme.reducedMotion ? 0 : 16
 

@@ -11,7 +11,7 @@ Rectangle {
     required property InformationModel workbench
 
     /// Kept while the banner closes.
-    property string message: ""
+    property string message
 
     implicitHeight: workbench.hasAvailableUpdate ? 44 : 0
     visible: implicitHeight > 0
