@@ -33,11 +33,9 @@ Item {
         anchors.fill: parent
     }
 
-    Rectangle {
+    Hairline {
         x: slice.ruleX
         width: parent.width - x - 24
-        height: 1
         visible: slice.ruled
-        color: InformationTheme.hair
     }
 }

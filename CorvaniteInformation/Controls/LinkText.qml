@@ -27,7 +27,5 @@ LabelButton {
         color: control.tint
     }
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 }

@@ -32,32 +32,17 @@ PaneList {
         value: list.originY + list.contentHeight
     }
 
-    function scrollToTop() {
-        contentY = originY - topMargin;
-    }
-
-    /// Gives the focus to a row, which comes into sight. Whether there is such a row.
-    function focusRow(index: int, reason: int): bool {
-        if (index < 0 || index >= count)
-            return false;
-        positionViewAtIndex(index, ListView.Contain);
-        if (index === 0)
-            scrollToTop();
-        itemAtIndex(index).forceActiveFocus(reason);
-        return true;
-    }
-
     /// Moves the focus from a row by the keys that walk a list. Whether the key was one of them.
     function walk(index: int, key: int): bool {
         switch (key) {
         case Qt.Key_Up:
-            return focusRow(index - 1, Qt.TabFocusReason);
+            return focusRow(index - 1);
         case Qt.Key_Down:
-            return focusRow(index + 1, Qt.TabFocusReason);
+            return focusRow(index + 1);
         case Qt.Key_Home:
-            return focusRow(0, Qt.TabFocusReason);
+            return focusRow(0);
         case Qt.Key_End:
-            return focusRow(count - 1, Qt.TabFocusReason);
+            return focusRow(count - 1);
         default:
             return false;
         }

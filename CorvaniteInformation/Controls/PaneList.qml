@@ -36,4 +36,16 @@ ListView {
 
         pane: list
     }
+
+    /// Gives the keyboard's focus to a row, which comes into sight from however far. Whether there is
+    /// such a row.
+    function focusRow(index: int): bool {
+        if (index < 0 || index >= count)
+            return false;
+        positionViewAtIndex(index, ListView.Contain);
+        if (index === 0)
+            scroller.scrollToTop();
+        itemAtIndex(index).forceActiveFocus(Qt.TabFocusReason);
+        return true;
+    }
 }

@@ -56,10 +56,8 @@ Item {
             scrollTo(itemTop);
     }
 
-    /// Gives the keyboard's focus to a row, also to one that is far out of sight.
-    function focusRow(view: ListView, index: int) {
-        view.currentIndex = index;
-        view.currentItem.forceActiveFocus(Qt.TabFocusReason);
+    function scrollToTop() {
+        scrollTo(firstY);
     }
 
     function scrollTo(y: real) {
@@ -85,7 +83,7 @@ Item {
             scrollTo(pane.contentY - line);
             return true;
         case Qt.Key_Home:
-            scrollTo(firstY);
+            scrollToTop();
             return true;
         case Qt.Key_End:
             scrollTo(lastY);

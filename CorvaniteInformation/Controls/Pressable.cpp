@@ -24,29 +24,29 @@ Pressable::Pressable(QQuickItem* parent) : QQuickItem(parent)
 
 void Pressable::hoverEnterEvent(QHoverEvent* /*event*/)
 {
-    setHovered(true);
+    m_hovered = true;
 }
 
 void Pressable::hoverLeaveEvent(QHoverEvent* /*event*/)
 {
-    setHovered(false);
+    m_hovered = false;
 }
 
 void Pressable::mousePressEvent(QMouseEvent* /*event*/)
 {
     forceActiveFocus(Qt::MouseFocusReason);
-    setDown(true);
+    m_down = true;
 }
 
 void Pressable::mouseMoveEvent(QMouseEvent* event)
 {
-    setDown(contains(event->position()));
+    m_down = contains(event->position());
 }
 
 void Pressable::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
     if (m_down) {
-        setDown(false);
+        m_down = false;
         Q_EMIT clicked();
     }
 }
@@ -58,7 +58,7 @@ void Pressable::mouseDoubleClickEvent(QMouseEvent* event)
 
 void Pressable::mouseUngrabEvent()
 {
-    setDown(false);
+    m_down = false;
 }
 
 void Pressable::keyPressEvent(QKeyEvent* event)
@@ -66,7 +66,7 @@ void Pressable::keyPressEvent(QKeyEvent* event)
     if (event->isAutoRepeat()) {
         event->ignore();
     } else if (event->key() == Qt::Key_Space) {
-        setDown(true);
+        m_down = true;
     } else if (isEnter(*event)) {
         Q_EMIT clicked();
     } else {
@@ -79,7 +79,7 @@ void Pressable::keyReleaseEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Space || event->isAutoRepeat()) {
         event->ignore();
     } else if (m_down) {
-        setDown(false);
+        m_down = false;
         Q_EMIT clicked();
     }
 }
@@ -90,13 +90,13 @@ void Pressable::focusInEvent(QFocusEvent* event)
     if (event->reason() != Qt::ActiveWindowFocusReason) {
         m_focusFromKeyboard = isFromKeyboard(event->reason());
     }
-    setVisualFocus(m_focusFromKeyboard);
+    m_visualFocus = m_focusFromKeyboard;
 }
 
 void Pressable::focusOutEvent(QFocusEvent* /*event*/)
 {
-    setDown(false);
-    setVisualFocus(false);
+    m_down = false;
+    m_visualFocus = false;
 }
 
 void Pressable::itemChange(ItemChange change, const ItemChangeData& data)
@@ -105,31 +105,7 @@ void Pressable::itemChange(ItemChange change, const ItemChangeData& data)
     const bool gone =
         (change == ItemEnabledHasChanged || change == ItemVisibleHasChanged) && !data.boolValue;
     if (gone) {
-        setHovered(false);
-        setDown(false);
-    }
-}
-
-void Pressable::setHovered(bool hovered)
-{
-    if (m_hovered != hovered) {
-        m_hovered = hovered;
-        Q_EMIT hoveredChanged();
-    }
-}
-
-void Pressable::setDown(bool down)
-{
-    if (m_down != down) {
-        m_down = down;
-        Q_EMIT downChanged();
-    }
-}
-
-void Pressable::setVisualFocus(bool visualFocus)
-{
-    if (m_visualFocus != visualFocus) {
-        m_visualFocus = visualFocus;
-        Q_EMIT visualFocusChanged();
+        m_hovered = false;
+        m_down = false;
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QProperty>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
@@ -45,12 +46,8 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
-    void setHovered(bool hovered);
-    void setDown(bool down);
-    void setVisualFocus(bool visualFocus);
-
-    bool m_hovered = false;
-    bool m_down = false;
-    bool m_visualFocus = false;
+    Q_OBJECT_BINDABLE_PROPERTY(Pressable, bool, m_hovered, &Pressable::hoveredChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(Pressable, bool, m_down, &Pressable::downChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(Pressable, bool, m_visualFocus, &Pressable::visualFocusChanged)
     bool m_focusFromKeyboard = false;
 };

@@ -4,9 +4,9 @@ import QtQuick
 Loader {
     id: loader
 
-    /// Opens the sheet of that file, with these initial properties.
+    /// Makes the sheet of that file, with these initial properties.
     function show(file: url, properties: var) {
-        setSource(file, Object.assign({ visible: true }, properties));
+        setSource(file, properties);
     }
 
     Connections {

@@ -31,9 +31,7 @@ AppButton {
 
     onClicked: LinkOpener.open(link.address)
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     // A text's own implicit width would change with the width that is made from it.
     TextMetrics {
@@ -64,7 +62,7 @@ AppButton {
         anchors.bottom: label.bottom
         anchors.bottomMargin: (link.textStyle.lineHeight - height) / 2
         visible: link.enabled && link.hasArrow
-        path: IconPaths.arrowUpRight
+        path: IconPaths.openOutside
         size: 14
         color: link.tint
     }

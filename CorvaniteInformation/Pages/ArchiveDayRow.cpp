@@ -1,16 +1,18 @@
 #include "ArchiveDayRow.h"
 
 #include "ArchiveDateLabels.h"
-#include "RowSlices.h"
+#include "DaySlices.h"
+
+#include <utility>
 
 QList<ArchiveDayRow> ArchiveDayRow::slicesOf(const SelectionDay& day,
                                              const QList<InformationSignal>& focusSignals,
                                              const QString& packDay)
 {
-    QList<ArchiveEntryRow> entries;
+    QList<DayEntryRow> entries;
     entries.reserve(focusSignals.size());
     for (const auto& signal : focusSignals) {
-        entries.append(ArchiveEntryRow::from(signal, entries.size() + 1));
+        entries.append(DayEntryRow::from(signal, entries.size() + 1));
     }
 
     ArchiveDayRow row;
@@ -22,12 +24,5 @@ QList<ArchiveDayRow> ArchiveDayRow::slicesOf(const SelectionDay& day,
         QString::number(day.totalShown), QString::number(day.focusSignalIds.size()));
     row.name = u"查看%1的完整精选"_qs.arg(row.monthDay);
 
-    QList<ArchiveDayRow> slices;
-    for (auto& slice : RowSlices::of(entries)) {
-        row.entries = std::move(slice);
-        slices.append(row);
-    }
-    slices.first().opensDay = true;
-    slices.last().closesDay = true;
-    return slices;
+    return daySlices(std::move(row), entries);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ArchiveEntryRow.h"
+#include "DayEntryRow.h"
 #include "InformationSignal.h"
 #include "SelectionDay.h"
 
@@ -19,7 +19,7 @@ struct ArchiveDayRow
     Q_PROPERTY(QString monthDay MEMBER monthDay CONSTANT FINAL)
     Q_PROPERTY(QString weekday MEMBER weekday CONSTANT FINAL)
     Q_PROPERTY(bool isToday MEMBER isToday CONSTANT FINAL)
-    Q_PROPERTY(QList<ArchiveEntryRow> entries MEMBER entries CONSTANT FINAL)
+    Q_PROPERTY(QList<DayEntryRow> entries MEMBER entries CONSTANT FINAL)
     Q_PROPERTY(QString closing MEMBER closing CONSTANT FINAL)
     Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
     Q_PROPERTY(bool opensDay MEMBER opensDay CONSTANT FINAL)
@@ -37,7 +37,7 @@ public:
     QString monthDay;
     QString weekday;
     bool isToday = false;
-    QList<ArchiveEntryRow> entries;
+    QList<DayEntryRow> entries;
     QString closing;
     /// For a screen reader.
     QString name;

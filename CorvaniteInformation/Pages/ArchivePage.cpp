@@ -40,12 +40,7 @@ void ArchivePage::showIndex(const InformationModel& workbench)
             day, ArchiveDigest::focusSignals(day, workbench.signalIndex()), today));
     }
     m_days.setRows(rows);
-
-    const QString summary = u"%1 天记录"_qs.arg(archiveDays.size());
-    if (m_summary != summary) {
-        m_summary = summary;
-        Q_EMIT summaryChanged();
-    }
+    m_summary = u"%1 天记录"_qs.arg(archiveDays.size());
 }
 
 void ArchivePage::showDay(const InformationModel& workbench)

@@ -6,6 +6,7 @@
 #include "RowListModel.h"
 #include "WorkbenchPage.h"
 
+#include <QProperty>
 #include <QString>
 
 /// The archive surface: the index of days, and the page of the selected one.
@@ -29,7 +30,7 @@ class ArchivePage : public WorkbenchPage
 public:
     using WorkbenchPage::WorkbenchPage;
 
-    const QString& summary() const { return m_summary; }
+    QString summary() const { return m_summary; }
     RowListModel<ArchiveDayRow>* days() { return &m_days; }
     bool showsDay() const { return m_dayPosition >= 0; }
     const ArchiveDayTexts& day() const { return m_day; }
@@ -48,7 +49,7 @@ private:
     void showIndex(const InformationModel& workbench);
     void showDay(const InformationModel& workbench);
 
-    QString m_summary;
+    Q_OBJECT_BINDABLE_PROPERTY(ArchivePage, QString, m_summary, &ArchivePage::summaryChanged)
     RowListModel<ArchiveDayRow> m_days;
     ArchiveDayTexts m_day;
     int m_dayPosition = -1;

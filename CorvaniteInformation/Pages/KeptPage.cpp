@@ -51,8 +51,5 @@ void KeptPage::show(const InformationModel& workbench)
                              : u"默认精选仍会继续工作；遇到以后还会用到的信息，直接点“收下”。"_qs;
 
     m_rows.setRows(rows);
-    if (m_texts != texts) {
-        m_texts = std::move(texts);
-        Q_EMIT textsChanged();
-    }
+    m_texts = std::move(texts);
 }

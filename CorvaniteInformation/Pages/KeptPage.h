@@ -4,6 +4,7 @@
 #include "RowListModel.h"
 #include "WorkbenchPage.h"
 
+#include <QProperty>
 #include <QString>
 
 /// The kept surface.
@@ -23,10 +24,10 @@ class KeptPage : public WorkbenchPage
 public:
     using WorkbenchPage::WorkbenchPage;
 
-    const QString& eyebrow() const { return m_texts.eyebrow; }
-    bool empty() const { return m_texts.empty; }
-    const QString& emptyTitle() const { return m_texts.emptyTitle; }
-    const QString& emptyMessage() const { return m_texts.emptyMessage; }
+    const QString& eyebrow() const { return m_texts.value().eyebrow; }
+    bool empty() const { return m_texts.value().empty; }
+    const QString& emptyTitle() const { return m_texts.value().emptyTitle; }
+    const QString& emptyMessage() const { return m_texts.value().emptyMessage; }
     RowListModel<KeptRow>* rows() { return &m_rows; }
 
     /// Takes the row's signal or hand-in out of what is kept.
@@ -50,6 +51,6 @@ private:
         friend bool operator==(const Texts&, const Texts&) = default;
     };
 
-    Texts m_texts;
+    Q_OBJECT_BINDABLE_PROPERTY(KeptPage, KeptPage::Texts, m_texts, &KeptPage::textsChanged)
     RowListModel<KeptRow> m_rows;
 };

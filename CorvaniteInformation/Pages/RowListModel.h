@@ -1,21 +1,19 @@
 #pragma once
 
-#include <QAbstractListModel>
+#include "RowList.h"
+
 #include <QHash>
 #include <QList>
 
 #include <utility>
 
-/// The rows of one view, each a value under the role "row". A row is known by its `key()`:
-/// `setRows` tells the view which rows came, went, moved or changed, so that what stays keeps its
-/// delegate, and with it focus and scroll position.
+/// Rows of one kind. A row is known by its `key()`: `setRows` tells the view which rows came, went,
+/// moved or changed, so that what stays keeps its delegate, and with it focus and scroll position.
 template <typename Row>
-class RowListModel : public QAbstractListModel
+class RowListModel : public RowList
 {
 public:
-    static constexpr int rowRole = Qt::UserRole;
-
-    using QAbstractListModel::QAbstractListModel;
+    using RowList::RowList;
 
     const QList<Row>& rows() const { return m_rows; }
 
@@ -28,11 +26,6 @@ public:
     {
         const bool known = checkIndex(index, CheckIndexOption::IndexIsValid) && role == rowRole;
         return known ? QVariant::fromValue(m_rows.at(index.row())) : QVariant();
-    }
-
-    QHash<int, QByteArray> roleNames() const override
-    {
-        return {{rowRole, QByteArrayLiteral("row")}};
     }
 
     /// Keys may repeat: equal keys are told apart by their order.

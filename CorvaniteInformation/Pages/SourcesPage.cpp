@@ -61,7 +61,7 @@ QString SourcesPage::directText()
            u"这类源天然结构化，走各自的证据契约。"_qs;
 }
 
-QList<DirectCollectionItem> SourcesPage::directItems()
+QList<LabelledTextRow> SourcesPage::directItems()
 {
     return {{u"GitHub"_qs, u"仓库与周度趋势榜：星标、发布与 README 变化"_qs},
             {u"Hacker News"_qs, u"热榜与产品雷达：讨论热度与产品发现的交叉信号"_qs},
@@ -80,7 +80,7 @@ QString SourcesPage::contractSubtitle()
     return u"聚合器只是线索，canonical 永远是原作者。"_qs;
 }
 
-QList<CitationRule> SourcesPage::contractRules()
+QList<LabelledTextRow> SourcesPage::contractRules()
 {
     return {{u"原文优先"_qs,
              u"成卡时 originalUrl 指向原始出处；聚合器条目只作为发现源记入关联信源。"_qs},

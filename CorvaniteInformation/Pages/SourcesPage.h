@@ -1,7 +1,6 @@
 #pragma once
 
-#include "CitationRule.h"
-#include "DirectCollectionItem.h"
+#include "LabelledTextRow.h"
 #include "SourceEntryRow.h"
 
 #include <QList>
@@ -27,11 +26,11 @@ class SourcesPage : public QObject
     Q_PROPERTY(QString directEyebrow READ directEyebrow CONSTANT FINAL)
     Q_PROPERTY(QString directSubtitle READ directSubtitle CONSTANT FINAL)
     Q_PROPERTY(QString directText READ directText CONSTANT FINAL)
-    Q_PROPERTY(QList<DirectCollectionItem> directItems READ directItems CONSTANT FINAL)
+    Q_PROPERTY(QList<LabelledTextRow> directItems READ directItems CONSTANT FINAL)
 
     Q_PROPERTY(QString contractEyebrow READ contractEyebrow CONSTANT FINAL)
     Q_PROPERTY(QString contractSubtitle READ contractSubtitle CONSTANT FINAL)
-    Q_PROPERTY(QList<CitationRule> contractRules READ contractRules CONSTANT FINAL)
+    Q_PROPERTY(QList<LabelledTextRow> contractRules READ contractRules CONSTANT FINAL)
 
     Q_PROPERTY(QString governanceHeadline READ governanceHeadline CONSTANT FINAL)
     Q_PROPERTY(QString governanceText READ governanceText CONSTANT FINAL)
@@ -53,11 +52,11 @@ public:
     static QString directEyebrow();
     static QString directSubtitle();
     static QString directText();
-    static QList<DirectCollectionItem> directItems();
+    static QList<LabelledTextRow> directItems();
 
     static QString contractEyebrow();
     static QString contractSubtitle();
-    static QList<CitationRule> contractRules();
+    static QList<LabelledTextRow> contractRules();
 
     static QString governanceHeadline();
     static QString governanceText();

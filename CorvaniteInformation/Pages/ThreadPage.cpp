@@ -50,11 +50,7 @@ void ThreadPage::show(const InformationModel& workbench)
         return;
     }
     m_rows.setRows(ThreadRow::columnOf(*signal));
-    auto thread = Thread::from(*signal);
-    if (m_thread != thread) {
-        m_thread = std::move(thread);
-        Q_EMIT threadChanged();
-    }
+    m_thread = Thread::from(*signal);
     const auto entry = workbench.isKept(*signal) ? workbench.savedEntry(*signal) : std::nullopt;
     showSaved(entry ? std::optional(Saved{entry->second.saveReason, entry->second.note})
                     : std::nullopt);

@@ -4,6 +4,7 @@
 #include "ThreadRow.h"
 #include "WorkbenchPage.h"
 
+#include <QProperty>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
@@ -35,11 +36,11 @@ public:
     const QString& signalId() const { return m_signalId; }
     void setSignalId(const QString& signalId);
 
-    const QString& title() const { return m_thread.title; }
-    bool hasDigest() const { return m_thread.digest.has_value(); }
-    QString digest() const { return m_thread.digest.value_or(QString()); }
-    const QString& originalAddress() const { return m_thread.originalAddress; }
-    bool hasSources() const { return m_thread.hasSources; }
+    const QString& title() const { return m_thread.value().title; }
+    bool hasDigest() const { return m_thread.value().digest.has_value(); }
+    QString digest() const { return m_thread.value().digest.value_or(QString()); }
+    const QString& originalAddress() const { return m_thread.value().originalAddress; }
+    bool hasSources() const { return m_thread.value().hasSources; }
     RowListModel<ThreadRow>* rows() { return &m_rows; }
     bool kept() const { return m_saved.has_value(); }
     QString saveReason() const { return m_saved ? m_saved->reason : QString(); }
@@ -85,7 +86,7 @@ private:
     void showSaved(std::optional<Saved> saved);
 
     QString m_signalId;
-    Thread m_thread;
+    Q_OBJECT_BINDABLE_PROPERTY(ThreadPage, ThreadPage::Thread, m_thread, &ThreadPage::threadChanged)
     RowListModel<ThreadRow> m_rows;
     /// Of a kept signal.
     std::optional<Saved> m_saved;

@@ -20,7 +20,7 @@ ThreadRow rowOf(ThreadRow::Kind kind, bool first = true)
 QList<ThreadRow> ThreadRow::columnOf(const InformationSignal& signal)
 {
     QList<ThreadRow> column;
-    for (const auto& slice : RowSlices::of(TimelineRow::timelineOf(signal))) {
+    for (const auto& slice : RowSlices::of(TimelineNodeRow::timelineOf(signal))) {
         auto row = rowOf(Kind::Timeline, column.isEmpty());
         row.timeline = slice;
         column.append(row);

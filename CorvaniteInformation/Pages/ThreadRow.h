@@ -2,7 +2,7 @@
 
 #include "InformationSignal.h"
 #include "RelatedSourceRow.h"
-#include "TimelineRow.h"
+#include "TimelineNodeRow.h"
 
 #include <QList>
 #include <QObject>
@@ -19,7 +19,7 @@ struct ThreadRow
     Q_PROPERTY(bool isOriginal READ isOriginal CONSTANT FINAL)
     Q_PROPERTY(bool isSources READ isSources CONSTANT FINAL)
     Q_PROPERTY(bool first MEMBER first CONSTANT FINAL)
-    Q_PROPERTY(QList<TimelineRow> timeline MEMBER timeline CONSTANT FINAL)
+    Q_PROPERTY(QList<TimelineNodeRow> timeline MEMBER timeline CONSTANT FINAL)
     Q_PROPERTY(QList<RelatedSourceRow> sources MEMBER sources CONSTANT FINAL)
 
 public:
@@ -38,7 +38,7 @@ public:
     /// The first of its kind.
     bool first = true;
     /// With `Kind::Timeline`.
-    QList<TimelineRow> timeline;
+    QList<TimelineNodeRow> timeline;
     /// With `Kind::Sources`.
     QList<RelatedSourceRow> sources;
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "RailRow.h"
+#include "RailLineRow.h"
 #include "SignalCardRow.h"
 
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-/// One place of the today surface's column, or of the list of everything beside it.
+/// One place of the today surface's column, or of the list of everything.
 struct TodayEntry
 {
     Q_GADGET
@@ -18,10 +18,9 @@ struct TodayEntry
     Q_PROPERTY(bool isDisclosure READ isDisclosure CONSTANT FINAL)
     Q_PROPERTY(bool isRailHeading READ isRailHeading CONSTANT FINAL)
     Q_PROPERTY(bool isRailLine READ isRailLine CONSTANT FINAL)
-    Q_PROPERTY(bool isRailEnd READ isRailEnd CONSTANT FINAL)
     Q_PROPERTY(bool isOfRail READ isOfRail CONSTANT FINAL)
     Q_PROPERTY(SignalCardRow card MEMBER card CONSTANT FINAL)
-    Q_PROPERTY(RailRow rail MEMBER rail CONSTANT FINAL)
+    Q_PROPERTY(RailLineRow rail MEMBER rail CONSTANT FINAL)
 
 public:
     enum class Kind {
@@ -31,24 +30,21 @@ public:
         /// Opens and closes the remaining cards.
         Disclosure,
         RailHeading,
-        RailLine,
-        /// The data receipt.
-        RailEnd
+        RailLine
     };
 
     Kind kind = Kind::Intro;
     /// With `Kind::Card`.
     SignalCardRow card;
     /// With `Kind::RailLine`.
-    RailRow rail;
+    RailLineRow rail;
 
     bool isIntro() const { return kind == Kind::Intro; }
     bool isCard() const { return kind == Kind::Card; }
     bool isDisclosure() const { return kind == Kind::Disclosure; }
     bool isRailHeading() const { return kind == Kind::RailHeading; }
     bool isRailLine() const { return kind == Kind::RailLine; }
-    bool isRailEnd() const { return kind == Kind::RailEnd; }
-    bool isOfRail() const { return isRailHeading() || isRailLine() || isRailEnd(); }
+    bool isOfRail() const { return isRailHeading() || isRailLine(); }
 
     QString key() const
     {

@@ -8,7 +8,7 @@
 
 namespace {
 
-QList<DataReceiptRow> dataReceipt(qsizetype shown, qsizetype focused)
+QList<LabelledTextRow> dataReceipt(qsizetype shown, qsizetype focused)
 {
     return {{QString::number(WorkbenchTexts::checkedItemCount), u"条公开信息已检查"_qs},
             {QString::number(shown), u"条值得看"_qs},
@@ -33,13 +33,40 @@ TodayEntry entryOf(TodayEntry::Kind kind)
     return entry;
 }
 
-TodayEntry cardEntry(const InformationModel& workbench, const InformationSignal& signal)
+using SeenTargets = QSet<QString>;
+
+SeenTargets seenTargets(const InformationModel& workbench)
 {
-    TodayEntry entry = entryOf(TodayEntry::Kind::Card);
-    entry.card = SignalCardRow::from(
-        signal, {.kept = workbench.isKept(signal), .seen = workbench.workspace().hasSeen(signal)},
-        workbench.now());
-    return entry;
+    const auto& targets = workbench.workspace().seenTargets;
+    return {targets.cbegin(), targets.cend()};
+}
+
+QList<TodayEntry> cards(const InformationModel& workbench, const QList<InformationSignal>& signals,
+                        const SeenTargets& seen)
+{
+    QList<TodayEntry> cards;
+    cards.reserve(signals.size());
+    for (const auto& signal : signals) {
+        TodayEntry entry = entryOf(TodayEntry::Kind::Card);
+        entry.card = SignalCardRow::from(
+            signal,
+            {.kept = workbench.isKept(signal), .seen = seen.contains(signal.followTarget.id)},
+            workbench.now());
+        cards.append(entry);
+    }
+    return cards;
+}
+
+QList<TodayEntry> rail(const QList<InformationSignal>& signals, const SeenTargets& seen)
+{
+    QList<TodayEntry> rail{entryOf(TodayEntry::Kind::RailHeading)};
+    rail.reserve(signals.size() + 1);
+    for (int position = 0; const auto& signal : signals) {
+        TodayEntry line = entryOf(TodayEntry::Kind::RailLine);
+        line.rail = RailLineRow::from(signal, seen.contains(signal.followTarget.id), position++);
+        rail.append(line);
+    }
+    return rail;
 }
 
 } // namespace
@@ -49,24 +76,6 @@ void TodayPage::setShowingRemaining(bool showing)
     if (m_showingRemaining != showing) {
         m_showingRemaining = showing;
         Q_EMIT showingRemainingChanged();
-        refresh();
-    }
-}
-
-void TodayPage::setRailBelow(bool below)
-{
-    if (m_railBelow != below) {
-        m_railBelow = below;
-        Q_EMIT railBelowChanged();
-        refresh();
-    }
-}
-
-void TodayPage::setReceiptPinned(bool pinned)
-{
-    if (m_receiptPinned != pinned) {
-        m_receiptPinned = pinned;
-        Q_EMIT receiptPinnedChanged();
         refresh();
     }
 }
@@ -116,51 +125,18 @@ void TodayPage::show(const InformationModel& workbench)
     texts.receiptRows = dataReceipt(filtered.size(), focused.size());
     texts.railCount = static_cast<int>(filtered.size());
     texts.empty = visibleCount == 0;
-    if (m_texts != texts) {
-        m_texts = std::move(texts);
-        Q_EMIT textsChanged();
-    }
+    m_texts = std::move(texts);
 
-    const auto railEntries = rail(workbench, filtered);
-    m_lanes.setRows(laneChips(workbench));
-    m_entries.setRows(column(workbench, focused, remaining) +
-                      (m_railBelow ? railEntries : QList<TodayEntry>()));
-    m_railEntries.setRows(railEntries);
-}
-
-QList<TodayEntry> TodayPage::column(const InformationModel& workbench,
-                                    const QList<InformationSignal>& focused,
-                                    const QList<InformationSignal>& remaining) const
-{
+    const auto seen = seenTargets(workbench);
     QList<TodayEntry> column{entryOf(TodayEntry::Kind::Intro)};
-    for (const auto& signal : focused) {
-        column.append(cardEntry(workbench, signal));
-    }
+    column += cards(workbench, focused, seen);
     if (!remaining.isEmpty()) {
         column.append(entryOf(TodayEntry::Kind::Disclosure));
     }
     if (m_showingRemaining) {
-        for (const auto& signal : remaining) {
-            column.append(cardEntry(workbench, signal));
-        }
+        column += cards(workbench, remaining, seen);
     }
-    return column;
-}
-
-QList<TodayEntry> TodayPage::rail(const InformationModel& workbench,
-                                  const QList<InformationSignal>& signals) const
-{
-    const auto& seenTargets = workbench.workspace().seenTargets;
-    const QSet<QString> seen(seenTargets.cbegin(), seenTargets.cend());
-    QList<TodayEntry> rail{entryOf(TodayEntry::Kind::RailHeading)};
-    rail.reserve(signals.size() + 2);
-    for (int position = 0; const auto& signal : signals) {
-        TodayEntry line = entryOf(TodayEntry::Kind::RailLine);
-        line.rail = RailRow::from(signal, seen.contains(signal.followTarget.id), position++);
-        rail.append(line);
-    }
-    if (m_railBelow || !m_receiptPinned) {
-        rail.append(entryOf(TodayEntry::Kind::RailEnd));
-    }
-    return rail;
+    m_lanes.setRows(laneChips(workbench));
+    m_entries.setRows(column);
+    m_railEntries.setRows(rail(filtered, seen));
 }

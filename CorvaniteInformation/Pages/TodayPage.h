@@ -1,12 +1,13 @@
 #pragma once
 
-#include "DataReceiptRow.h"
+#include "LabelledTextRow.h"
 #include "LaneChipRow.h"
 #include "RowListModel.h"
 #include "TodayEntry.h"
 #include "WorkbenchPage.h"
 
 #include <QList>
+#include <QProperty>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
@@ -19,11 +20,6 @@ class TodayPage : public WorkbenchPage
     /// The remaining cards are shown too.
     Q_PROPERTY(bool showingRemaining READ showingRemaining WRITE setShowingRemaining NOTIFY
                    showingRemainingChanged FINAL)
-    /// The list of everything follows the cards instead of standing beside them.
-    Q_PROPERTY(bool railBelow READ railBelow WRITE setRailBelow NOTIFY railBelowChanged FINAL)
-    /// The list of everything does not end in the data receipt: it has a place of its own.
-    Q_PROPERTY(bool receiptPinned READ receiptPinned WRITE setReceiptPinned NOTIFY
-                   receiptPinnedChanged FINAL)
 
     Q_PROPERTY(QString eyebrow READ eyebrow CONSTANT FINAL)
     Q_PROPERTY(QString title READ title NOTIFY textsChanged FINAL)
@@ -35,14 +31,14 @@ class TodayPage : public WorkbenchPage
     Q_PROPERTY(bool empty READ empty NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString remainingTitle READ remainingTitle NOTIFY textsChanged FINAL)
     Q_PROPERTY(int railCount READ railCount NOTIFY textsChanged FINAL)
-    Q_PROPERTY(QList<DataReceiptRow> receiptRows READ receiptRows NOTIFY textsChanged FINAL)
+    Q_PROPERTY(QList<LabelledTextRow> receiptRows READ receiptRows NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString updatedText READ updatedText CONSTANT FINAL)
 
     /// Rows of `laneChipRow`.
     Q_PROPERTY(QAbstractItemModel* lanes READ lanes CONSTANT FINAL)
     /// Rows of `todayEntry`: the column from top to bottom.
     Q_PROPERTY(QAbstractItemModel* entries READ entries CONSTANT FINAL)
-    /// Rows of `todayEntry`: the list of everything where it stands beside the column.
+    /// Rows of `todayEntry`: the list of everything.
     Q_PROPERTY(QAbstractItemModel* railEntries READ railEntries CONSTANT FINAL)
 
 public:
@@ -50,20 +46,16 @@ public:
 
     bool showingRemaining() const { return m_showingRemaining; }
     void setShowingRemaining(bool showing);
-    bool railBelow() const { return m_railBelow; }
-    void setRailBelow(bool below);
-    bool receiptPinned() const { return m_receiptPinned; }
-    void setReceiptPinned(bool pinned);
 
     static QString eyebrow();
-    const QString& title() const { return m_texts.title; }
-    const QString& lead() const { return m_texts.lead; }
-    bool adjusted() const { return !m_texts.preferenceStatus.isEmpty(); }
-    const QString& preferenceStatus() const { return m_texts.preferenceStatus; }
-    bool empty() const { return m_texts.empty; }
-    const QString& remainingTitle() const { return m_texts.remainingTitle; }
-    int railCount() const { return m_texts.railCount; }
-    const QList<DataReceiptRow>& receiptRows() const { return m_texts.receiptRows; }
+    const QString& title() const { return m_texts.value().title; }
+    const QString& lead() const { return m_texts.value().lead; }
+    bool adjusted() const { return !m_texts.value().preferenceStatus.isEmpty(); }
+    const QString& preferenceStatus() const { return m_texts.value().preferenceStatus; }
+    bool empty() const { return m_texts.value().empty; }
+    const QString& remainingTitle() const { return m_texts.value().remainingTitle; }
+    int railCount() const { return m_texts.value().railCount; }
+    const QList<LabelledTextRow>& receiptRows() const { return m_texts.value().receiptRows; }
     static QString updatedText();
 
     RowListModel<LaneChipRow>* lanes() { return &m_lanes; }
@@ -75,8 +67,6 @@ public:
 
 Q_SIGNALS:
     void showingRemainingChanged();
-    void railBelowChanged();
-    void receiptPinnedChanged();
     void textsChanged();
 
 protected:
@@ -90,23 +80,15 @@ private:
         QString lead;
         QString preferenceStatus;
         QString remainingTitle;
-        QList<DataReceiptRow> receiptRows;
+        QList<LabelledTextRow> receiptRows;
         int railCount = 0;
         bool empty = false;
 
         friend bool operator==(const Texts&, const Texts&) = default;
     };
 
-    QList<TodayEntry> column(const InformationModel& workbench,
-                             const QList<InformationSignal>& focused,
-                             const QList<InformationSignal>& remaining) const;
-    QList<TodayEntry> rail(const InformationModel& workbench,
-                           const QList<InformationSignal>& signals) const;
-
     bool m_showingRemaining = false;
-    bool m_railBelow = false;
-    bool m_receiptPinned = false;
-    Texts m_texts;
+    Q_OBJECT_BINDABLE_PROPERTY(TodayPage, TodayPage::Texts, m_texts, &TodayPage::textsChanged)
     RowListModel<LaneChipRow> m_lanes;
     RowListModel<TodayEntry> m_entries;
     RowListModel<TodayEntry> m_railEntries;

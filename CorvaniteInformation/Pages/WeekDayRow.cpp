@@ -1,15 +1,20 @@
 #include "WeekDayRow.h"
 
-#include "RowSlices.h"
+#include "DaySlices.h"
 #include "WeeklyDigestLabels.h"
+
+#include <utility>
 
 QList<WeekDayRow> WeekDayRow::slicesOf(const SelectionDay& day,
                                        const QHash<QString, InformationSignal>& index)
 {
-    QList<WeekEntryRow> entries;
+    QList<DayEntryRow> entries;
     entries.reserve(day.focusSignalIds.size());
     for (const QString& id : day.focusSignalIds) {
-        entries.append(WeekEntryRow::from(id, index));
+        const auto signal = index.constFind(id);
+        const auto number = entries.size() + 1;
+        entries.append(signal == index.cend() ? DayEntryRow::gone(id, number)
+                                              : DayEntryRow::from(*signal, number));
     }
 
     WeekDayRow row;
@@ -18,14 +23,7 @@ QList<WeekDayRow> WeekDayRow::slicesOf(const SelectionDay& day,
     row.count = u"共 %1 条在册"_qs.arg(day.totalShown);
     row.linkName = u"查看%1的完整精选"_qs.arg(row.label);
 
-    QList<WeekDayRow> slices;
-    for (auto& slice : RowSlices::of(entries)) {
-        row.entries = std::move(slice);
-        slices.append(row);
-    }
-    slices.first().opensDay = true;
-    slices.last().closesDay = true;
-    return slices;
+    return daySlices(std::move(row), entries);
 }
 
 QList<WeekDayRow> WeekDayRow::slicesOf(const WeeklyDigest::Week& week,

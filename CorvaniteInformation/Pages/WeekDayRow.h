@@ -1,7 +1,7 @@
 #pragma once
 
+#include "DayEntryRow.h"
 #include "SelectionDay.h"
-#include "WeekEntryRow.h"
 #include "WeeklyDigest.h"
 
 #include <QHash>
@@ -19,7 +19,7 @@ struct WeekDayRow
     Q_PROPERTY(QString date MEMBER date CONSTANT FINAL)
     Q_PROPERTY(QString label MEMBER label CONSTANT FINAL)
     Q_PROPERTY(QString count MEMBER count CONSTANT FINAL)
-    Q_PROPERTY(QList<WeekEntryRow> entries MEMBER entries CONSTANT FINAL)
+    Q_PROPERTY(QList<DayEntryRow> entries MEMBER entries CONSTANT FINAL)
     Q_PROPERTY(QString linkName MEMBER linkName CONSTANT FINAL)
     Q_PROPERTY(bool opensDay MEMBER opensDay CONSTANT FINAL)
     Q_PROPERTY(bool closesDay MEMBER closesDay CONSTANT FINAL)
@@ -38,7 +38,7 @@ public:
     QString date;
     QString label;
     QString count;
-    QList<WeekEntryRow> entries;
+    QList<DayEntryRow> entries;
     /// The link to the whole day, for a screen reader.
     QString linkName;
     /// The first slice of its day, which shows the date.

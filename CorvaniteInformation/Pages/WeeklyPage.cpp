@@ -2,14 +2,15 @@
 
 namespace {
 
-QList<WeeklyRow> weeklyRows(const InformationModel& workbench)
+QList<WeeklyPlace> weeklyRows(const InformationModel& workbench)
 {
     const auto currentWeekId =
         WeeklyDigest::beijingWeekOfDay(WeeklyDigest::beijingToday(workbench.now()));
     const auto& index = workbench.signalIndex();
-    QList<WeeklyRow> rows;
+    QList<WeeklyPlace> rows;
     for (const auto& week : workbench.weeklyWeeks()) {
-        rows.append({.isDay = false, .week = WeekRow::from(week, index, currentWeekId), .day = {}});
+        rows.append(
+            {.isDay = false, .week = WeekHeadRow::from(week, index, currentWeekId), .day = {}});
         for (const auto& day : WeekDayRow::slicesOf(week, index)) {
             rows.append({.isDay = true, .week = {}, .day = day});
         }
@@ -27,9 +28,5 @@ void WeeklyPage::follow(const InformationModel& workbench)
 void WeeklyPage::show(const InformationModel& workbench)
 {
     m_rows.setRows(weeklyRows(workbench));
-    const bool empty = m_rows.rows().isEmpty();
-    if (m_empty != empty) {
-        m_empty = empty;
-        Q_EMIT emptyChanged();
-    }
+    m_empty = m_rows.rows().isEmpty();
 }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "RowListModel.h"
-#include "WeeklyRow.h"
+#include "WeeklyPlace.h"
 #include "WorkbenchPage.h"
+
+#include <QProperty>
 
 /// The weekly surface.
 class WeeklyPage : public WorkbenchPage
@@ -11,14 +13,14 @@ class WeeklyPage : public WorkbenchPage
     QML_ELEMENT
 
     Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged FINAL)
-    /// Rows of `weeklyRow`: each week, newest first, and after it its days.
+    /// Rows of `weeklyPlace`: each week, newest first, and after it its days.
     Q_PROPERTY(QAbstractItemModel* rows READ rows CONSTANT FINAL)
 
 public:
     using WorkbenchPage::WorkbenchPage;
 
     bool empty() const { return m_empty; }
-    RowListModel<WeeklyRow>* rows() { return &m_rows; }
+    RowListModel<WeeklyPlace>* rows() { return &m_rows; }
 
 Q_SIGNALS:
     void emptyChanged();
@@ -28,6 +30,6 @@ protected:
     void show(const InformationModel& workbench) override;
 
 private:
-    bool m_empty = true;
-    RowListModel<WeeklyRow> m_rows;
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(WeeklyPage, bool, m_empty, true, &WeeklyPage::emptyChanged)
+    RowListModel<WeeklyPlace> m_rows;
 };

@@ -36,7 +36,7 @@ TestCase {
         id: icon
         IconButton {
             text: "关闭回执"
-            iconPath: IconPaths.xMark
+            iconPath: IconPaths.close
         }
     }
 
@@ -199,7 +199,7 @@ TestCase {
 
     function test_iconAndLabelStandSideBySide() {
         const bare = made(citrine, {text: "添加信息"});
-        const withIcon = made(citrine, {text: "添加信息", iconPath: IconPaths.plus});
+        const withIcon = made(citrine, {text: "添加信息", iconPath: IconPaths.add});
         compare(withIcon.width, bare.width + 16 + 6);
         compare(bare.leftPadding, 16);
     }
@@ -223,11 +223,11 @@ TestCase {
         const button = made(sync, {running: true});
         compare(button.text, "同步中");
         compare(button.Accessible.name, "同步中");
-        compare(button.iconPath, IconPaths.arrowTriangle2Circlepath);
+        compare(button.iconPath, IconPaths.syncing);
         verify(!button.enabled);
         button.running = false;
         compare(button.text, "同步站点");
-        compare(button.iconPath, IconPaths.arrowDownCircle);
+        compare(button.iconPath, IconPaths.sync);
         compare(button.iconRotation, 0);
         verify(button.enabled);
     }

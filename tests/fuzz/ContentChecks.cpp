@@ -132,7 +132,6 @@ public:
     explicit Pages(InformationModel& model) : m_model(model)
     {
         m_today.setShowingRemaining(true);
-        m_today.setRailBelow(true);
         for (WorkbenchPage* page : std::initializer_list<WorkbenchPage*>{
                  &m_today, &m_kept, &m_weekly, &m_archive, &m_thread}) {
             page->setWorkbench(&model);
@@ -149,11 +148,11 @@ public:
 
         const auto filtered = m_model.laneFilteredSignals().size();
         checkRows(*m_today.lanes(), std::ssize(vocabulary<InformationLane>) + 1);
-        // Each signal once more in the rail, which has a heading and an end.
-        checkRows(*m_today.railEntries(), filtered + 2);
+        // Each signal once more in the rail, which has a heading.
+        checkRows(*m_today.railEntries(), filtered + 1);
         const auto remaining = m_model.remainingSignals().size();
-        checkRows(*m_today.entries(), 1 + m_model.focusedSignals().size() + (remaining ? 1 : 0) +
-                                          remaining + filtered + 2);
+        checkRows(*m_today.entries(),
+                  1 + m_model.focusedSignals().size() + (remaining ? 1 : 0) + remaining);
         checkRows(*m_kept.rows(),
                   m_model.keptSignals().size() + m_model.keptCustomSources().size());
         checkRows(*m_weekly.rows(), weeklyRows());

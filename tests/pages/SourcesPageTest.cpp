@@ -108,7 +108,7 @@ void SourcesPageTest::saysWhereCardsComeFrom()
 
 void SourcesPageTest::listsWhatIsCollectedDirectly()
 {
-    const QList<DirectCollectionItem> items{
+    const QList<LabelledTextRow> items{
         {u"GitHub"_qs, u"仓库与周度趋势榜：星标、发布与 README 变化"_qs},
         {u"Hacker News"_qs, u"热榜与产品雷达：讨论热度与产品发现的交叉信号"_qs},
         {u"OpenRouter"_qs, u"模型库：模型、价格与上下文变化"_qs},
@@ -120,7 +120,7 @@ void SourcesPageTest::listsWhatIsCollectedDirectly()
 
 void SourcesPageTest::listsTheCitationRules()
 {
-    const QList<CitationRule> rules{
+    const QList<LabelledTextRow> rules{
         {u"原文优先"_qs,
          u"成卡时 originalUrl 指向原始出处；聚合器条目只作为发现源记入关联信源。"_qs},
         {u"不搬正文"_qs, u"快照不存储聚合器的摘要与翻译；条目变化只有标题、链接与时间戳。"_qs},

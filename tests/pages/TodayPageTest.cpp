@@ -7,7 +7,7 @@
 
 namespace {
 
-// One word an entry: "intro", a card's id, "more", "rail", a line's number and id, "receipt".
+// One word an entry: "intro", a card's id, "more", "rail", a line's number and id.
 QStringList wordsOf(const RowListModel<TodayEntry>& entries)
 {
     QStringList words;
@@ -28,9 +28,6 @@ QStringList wordsOf(const RowListModel<TodayEntry>& entries)
         case TodayEntry::Kind::RailLine:
             words.append(entry.rail.number + entry.rail.signalId);
             break;
-        case TodayEntry::Kind::RailEnd:
-            words.append(u"receipt"_qs);
-            break;
         }
     }
     return words;
@@ -45,11 +42,11 @@ QStringList textsOf(const RowListModel<LaneChipRow>& chips)
     return texts;
 }
 
-QStringList textsOf(const QList<DataReceiptRow>& rows)
+QStringList textsOf(const QList<LabelledTextRow>& rows)
 {
     QStringList texts;
     for (const auto& row : rows) {
-        texts.append(row.text());
+        texts.append(row.name());
     }
     return texts;
 }
@@ -124,29 +121,15 @@ private Q_SLOTS:
         QCOMPARE(wordsOf(*page.entries()), words("intro a b"));
     }
 
-    void listsEverythingBesideTheColumn()
+    void listsEverything()
     {
         SampleModel sample;
         const auto model = sample.make();
         TodayPage page;
         page.setWorkbench(model.get());
+
         QCOMPARE(page.railCount(), 2);
-        QCOMPARE(wordsOf(*page.railEntries()), words("rail 01a 02b receipt"));
-
-        page.setReceiptPinned(true);
         QCOMPARE(wordsOf(*page.railEntries()), words("rail 01a 02b"));
-    }
-
-    void listsEverythingBelowTheColumn()
-    {
-        SampleModel sample;
-        const auto model = sample.make();
-        TodayPage page;
-        page.setReceiptPinned(true);
-        page.setRailBelow(true);
-        page.setWorkbench(model.get());
-
-        QCOMPARE(wordsOf(*page.entries()), words("intro a b rail 01a 02b receipt"));
     }
 
     void countsTheLanes()
@@ -176,7 +159,7 @@ private Q_SLOTS:
         QCOMPARE(page.lead(),
                  u"已检查 478 条公开信息，归并、去重和过滤后留下 5 条；先替你放出 1 条。"_qs);
         QCOMPARE(wordsOf(*page.entries()), words("intro e"));
-        QCOMPARE(wordsOf(*page.railEntries()), words("rail 01e receipt"));
+        QCOMPARE(wordsOf(*page.railEntries()), words("rail 01e"));
         QCOMPARE(textsOf(page.receiptRows()),
                  QStringList({u"478 条公开信息已检查"_qs, u"1 条值得看"_qs, u"1 条先放出"_qs}));
 

@@ -2,8 +2,8 @@
 
 #include "Browser.h"
 #include "InformationSeed.h"
-#include "WorkbenchWindow.h"
 #include "Subject.h"
+#include "WorkbenchWindow.h"
 
 #include <QNetworkAccessManager>
 #include <QPointer>
@@ -157,18 +157,12 @@ void keepMany(InformationModel& model)
     }
 }
 
-void openThread(const WorkbenchWindow& window, const QString& id)
-{
-    QMetaObject::invokeMethod(window.window(), "openThread", Q_ARG(QString, id));
-    window.settle();
-}
-
 Stop keptThread(const QString& name, const QString& id)
 {
-    return {.name = name,
-            .act = [id](InformationModel& model) { model.toggleKeep(idOf(model, id)); },
-            .open = [id](const WorkbenchWindow& window,
-                         const InformationModel& model) { openThread(window, idOf(model, id)); }};
+    return {.name = name, .act = [id](InformationModel& model) {
+                model.toggleKeep(idOf(model, id));
+                model.openThread(idOf(model, id));
+            }};
 }
 
 bool isDisclosure(QQuickItem* item)
@@ -327,7 +321,8 @@ private Q_SLOTS:
         const Browser browser(HostileContent::schemes());
         Visit visit(fillWithAddresses, {.name = {}}, {1120, 780});
         for (const auto& signal : visit.model().visibleSignals()) {
-            openThread(visit.window(), signal.id);
+            visit.model().openThread(signal.id);
+            visit.window().settle();
             QVERIFY(visit.window().find(signal.title, QAccessible::Dialog));
             pressEvery(visit.window(), {QAccessible::Link});
             if (auto* const original = visit.window().find(u"看最新原文"_qs, QAccessible::Button)) {

@@ -34,8 +34,20 @@ private Q_SLOTS:
         window().pressKey(byKey ? Qt::Key_Escape : Qt::Key_Return);
 
         QTRY_VERIFY(!window().find(u"Title of a"_qs, QAccessible::Dialog));
+        QVERIFY(!model().hasOpenThread());
         QVERIFY(card->hasActiveFocus());
         QVERIFY(card->property("visualFocus").toBool());
+    }
+
+    void itShowsWhatTheModelHasOpen()
+    {
+        for (const auto& [id, title] :
+             {std::pair(u"a"_qs, u"Title of a"_qs), std::pair(u"b"_qs, u"Title of b"_qs)}) {
+            model().openThread(id);
+            QVERIFY(window().awaited(title, QAccessible::Dialog));
+            model().closeThread();
+            QTRY_VERIFY(!window().find(title, QAccessible::Dialog));
+        }
     }
 
     void itsLinksOpenWhatCanBeOpened()

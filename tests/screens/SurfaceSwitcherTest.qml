@@ -22,17 +22,17 @@ TestCase {
             SurfaceEntry {
                 surface: 0
                 label: "今天"
-                iconPath: IconPaths.sparkles
+                iconPath: IconPaths.today
             },
             SurfaceEntry {
                 surface: 1
                 label: "已收下"
-                iconPath: IconPaths.squareStack
+                iconPath: IconPaths.kept
             },
             SurfaceEntry {
                 surface: 2
                 label: "周报"
-                iconPath: IconPaths.calendar
+                iconPath: IconPaths.weekly
             }
         ]
     }

@@ -10,9 +10,7 @@ Column {
 
     spacing: 16
 
-    Rectangle {
-        width: parent.width
-        height: 1
+    Hairline {
         color: InformationTheme.hairStrong
     }
 

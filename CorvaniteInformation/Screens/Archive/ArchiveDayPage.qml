@@ -17,7 +17,7 @@ PageList {
     Connections {
         target: list.page
         function onDayChanged() {
-            list.scrollToTop();
+            list.scroller.scrollToTop();
         }
     }
 
@@ -38,7 +38,7 @@ PageList {
         width: list.width
         implicitHeight: section.height
 
-        FocusSection {
+        ArchiveFocus {
             id: section
 
             x: list.columnX

@@ -30,9 +30,7 @@ Column {
         onClicked: head.showWeekly()
     }
 
-    Rectangle {
-        width: parent.width
-        height: 1
+    Hairline {
         color: InformationTheme.hairStrong
     }
 

@@ -35,7 +35,7 @@ PageList {
         width: list.width
         implicitHeight: section.height
 
-        DaySection {
+        ArchiveDay {
             id: section
 
             x: list.columnX

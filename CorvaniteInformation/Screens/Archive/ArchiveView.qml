@@ -27,7 +27,7 @@ FocusScope {
         if (page.showsDay)
             day.forceActiveFocus();
         else
-            index.focusRow(lastPosition, Qt.TabFocusReason);
+            index.focusRow(lastPosition);
     }
 
     ArchiveIndex {

@@ -14,6 +14,7 @@ Sheet {
     horizontalPadding: 32
     verticalPadding: 28
     title: "交给 Corvanite"
+    visible: true
 
     onAboutToShow: form.begin()
     onOpened: form.takeFocus()

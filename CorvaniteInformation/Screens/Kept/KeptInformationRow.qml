@@ -22,9 +22,7 @@ AppButton {
 
     onClicked: control.opened()
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     Column {
         id: content

@@ -11,15 +11,13 @@ FocusScope {
 
     required property InformationModel workbench
 
-    signal threadRequested(string signalId)
-
     function focusSearch() {
         head.focusSearch();
     }
 
     function remove(row: keptRow, index: int) {
         page.remove(row);
-        if (!list.focusRow(Math.min(index, list.count - 1), Qt.TabFocusReason))
+        if (!list.focusRow(Math.min(index, list.count - 1)))
             focusSearch();
     }
 
@@ -76,7 +74,7 @@ FocusScope {
                         width: slice.width
                         focus: true
                         row: place.row
-                        onOpened: surface.threadRequested(row.itemId)
+                        onOpened: surface.workbench.openThread(row.itemId)
                         onRemoved: surface.remove(row, place.index)
                     }
                 }

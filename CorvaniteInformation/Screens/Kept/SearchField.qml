@@ -17,6 +17,6 @@ AppTextField {
     Icon {
         x: 12
         anchors.verticalCenter: parent.verticalCenter
-        path: IconPaths.magnifyingGlass
+        path: IconPaths.search
     }
 }

@@ -6,13 +6,13 @@ import CorvaniteInformation.Pages
 Item {
     id: bullet
 
-    required property directCollectionItem item
+    required property labelledTextRow row
 
     implicitHeight: text.height
 
     Icon {
         y: (InformationTheme.body.lineHeight - height) / 2
-        path: IconPaths.circleFill
+        path: IconPaths.bullet
         filled: true
         size: 8
         color: InformationTheme.accent
@@ -21,7 +21,7 @@ Item {
     AppText {
         x: 20
         width: 104
-        text: bullet.item.tag
+        text: bullet.row.label
         textStyle: InformationTheme.bodyBold
     }
 
@@ -30,7 +30,7 @@ Item {
 
         x: 136
         width: parent.width - x
-        text: bullet.item.text
+        text: bullet.row.text
         color: InformationTheme.ink2
     }
 }

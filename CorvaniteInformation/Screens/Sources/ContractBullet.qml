@@ -6,17 +6,17 @@ import CorvaniteInformation.Pages
 Column {
     id: bullet
 
-    required property citationRule rule
+    required property labelledTextRow row
 
     AppText {
         width: parent.width
-        text: bullet.rule.headline
+        text: bullet.row.label
         textStyle: InformationTheme.bodyBold
     }
 
     AppText {
         width: parent.width
-        text: bullet.rule.text
+        text: bullet.row.text
         color: InformationTheme.ink2
     }
 }

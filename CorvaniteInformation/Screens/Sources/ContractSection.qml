@@ -21,10 +21,10 @@ Column {
         model: section.page.contractRules
 
         ContractBullet {
-            required property citationRule modelData
+            required property labelledTextRow modelData
 
             width: section.width
-            rule: modelData
+            row: modelData
         }
     }
 }

@@ -28,10 +28,10 @@ Column {
         model: section.page.directItems
 
         BulletRow {
-            required property directCollectionItem modelData
+            required property labelledTextRow modelData
 
             width: section.width
-            item: modelData
+            row: modelData
         }
     }
 }

@@ -16,7 +16,7 @@ Rectangle {
     Icon {
         x: 24
         y: 22
-        path: IconPaths.checkmarkShield
+        path: IconPaths.governance
         size: 20
         color: InformationTheme.accent
     }

@@ -32,7 +32,7 @@ Column {
             anchors.right: parent.right
             anchors.bottom: header.bottom
             text: "网页版"
-            iconPath: IconPaths.arrowUpRight
+            iconPath: IconPaths.openOutside
             onClicked: LinkOpener.open(section.workbench.sitePage("sources"))
         }
 
@@ -65,7 +65,7 @@ Column {
             Repeater {
                 model: section.page.registry
 
-                RegistryRow {
+                SourceEntry {
                     required property sourceEntryRow modelData
                     required property int index
 

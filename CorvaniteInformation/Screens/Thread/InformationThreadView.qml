@@ -11,17 +11,26 @@ Sheet {
     id: sheet
 
     required property InformationModel workbench
-    required property string signalId
+
+    /// Kept while the sheet fades out.
+    property string signalId
 
     readonly property int sideMargin: 32
 
     width: 640
     height: Math.min(header.height + body.wholeHeight, parent.height - 72)
     title: threadPage.title
+    visible: sheet.workbench.hasOpenThread
 
+    onAboutToHide: sheet.workbench.closeThread()
     onOpened: {
         threadPage.markSeen();
         closeButton.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason);
+    }
+
+    LastingBinding on signalId {
+        when: sheet.workbench.hasOpenThread
+        value: sheet.workbench.openThreadId
     }
 
     ThreadPage {
@@ -76,11 +85,8 @@ Sheet {
                 onClicked: sheet.close()
             }
 
-            Rectangle {
+            Hairline {
                 anchors.bottom: parent.bottom
-                width: parent.width
-                height: 1
-                color: InformationTheme.hair
             }
         }
 

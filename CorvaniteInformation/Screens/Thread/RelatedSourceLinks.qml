@@ -19,11 +19,7 @@ Column {
             width: links.width
             spacing: 16
 
-            Rectangle {
-                width: parent.width
-                height: 1
-                color: InformationTheme.hair
-            }
+            Hairline {}
 
             HeadingText {
                 width: parent.width

@@ -76,7 +76,7 @@ PageList {
 
                     CitrineButton {
                         text: "看最新原文"
-                        iconPath: IconPaths.arrowUpRight
+                        iconPath: IconPaths.openOutside
                         iconStroke: 2.25
                         iconTrails: true
                         onClicked: LinkOpener.open(body.page.originalAddress)
@@ -111,11 +111,8 @@ PageList {
                 topPadding: body.page.hasSources ? 12 : 20
                 spacing: 16
 
-                Rectangle {
-                    width: parent.width
-                    height: 1
+                Hairline {
                     visible: !body.page.hasSources
-                    color: InformationTheme.hair
                 }
 
                 KeptNote {

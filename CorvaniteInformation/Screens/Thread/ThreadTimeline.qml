@@ -15,7 +15,7 @@ Column {
         model: timeline.row.timeline
 
         TimelineNode {
-            required property timelineRow modelData
+            required property timelineNodeRow modelData
 
             width: timeline.width
             row: modelData

@@ -6,7 +6,7 @@ import CorvaniteInformation.Pages
 Item {
     id: node
 
-    required property timelineRow row
+    required property timelineNodeRow row
 
     readonly property int axis: 6
     readonly property int nodeY: 12

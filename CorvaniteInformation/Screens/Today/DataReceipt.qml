@@ -10,9 +10,7 @@ Column {
 
     required property TodayPage page
 
-    Rectangle {
-        width: parent.width
-        height: 1
+    Hairline {
         color: InformationTheme.hairStrong
     }
 
@@ -33,19 +31,19 @@ Column {
         Item {
             id: figure
 
-            required property dataReceiptRow modelData
+            required property labelledTextRow modelData
 
             width: receipt.width
             height: 26
 
             Accessible.role: Accessible.StaticText
-            Accessible.name: figure.modelData.text
+            Accessible.name: figure.modelData.name
 
             AppText {
                 id: value
 
                 width: Math.max(36, implicitWidth)
-                text: figure.modelData.value
+                text: figure.modelData.label
                 textStyle: InformationTheme.figure
                 horizontalAlignment: Text.AlignRight
                 wrapMode: Text.NoWrap
@@ -55,7 +53,7 @@ Column {
             AppText {
                 anchors.baseline: value.baseline
                 x: value.width + 8
-                text: figure.modelData.label
+                text: figure.modelData.text
                 textStyle: InformationTheme.small
                 color: InformationTheme.ink2
                 wrapMode: Text.NoWrap

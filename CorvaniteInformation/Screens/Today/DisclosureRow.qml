@@ -17,9 +17,7 @@ AppButton {
     Accessible.name: row.text + "，" + row.note
     Accessible.description: row.open ? "已展开" : "已收起"
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     Column {
         id: texts
@@ -48,7 +46,7 @@ AppButton {
         anchors.verticalCenter: parent.verticalCenter
         anchors.right: parent.right
         anchors.rightMargin: 24
-        path: IconPaths.chevronDown
+        path: IconPaths.unfold
         size: 18
         rotation: row.open ? 180 : 0
 

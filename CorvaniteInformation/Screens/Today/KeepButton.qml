@@ -14,7 +14,7 @@ LabelButton {
     leftPadding: kept ? 12 : 16
     radius: kept ? InformationTheme.quietRadius : InformationTheme.citrineRadius
     text: kept ? "已收下" : "收下"
-    iconPath: kept ? IconPaths.checkmark : ""
+    iconPath: kept ? IconPaths.confirmed : ""
     iconTint: InformationTheme.malachite
     textStyle: kept ? InformationTheme.quietLabel : InformationTheme.citrineLabel
     tint: {

@@ -15,7 +15,7 @@ Item {
         id: icon
 
         anchors.verticalCenter: parent.verticalCenter
-        path: IconPaths.sliderHorizontal3
+        path: IconPaths.adjusted
     }
 
     AppText {

@@ -4,7 +4,7 @@ import QtQuick
 import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 
-/// One place of the list of everything: its head, a line, or the data receipt at its end.
+/// One place of the list of everything: its head or a line.
 FocusScope {
     id: view
 
@@ -12,7 +12,6 @@ FocusScope {
     required property TodayPage page
     required property int railStop
 
-    signal threadRequested(signalId: string)
     signal lineFocused(position: int)
     /// The focus is to go to the line that many lines further.
     signal stepped(by: int)
@@ -48,19 +47,10 @@ FocusScope {
                     row: view.row.rail
                     count: view.page.railCount
                     tabStop: row.position === view.railStop
-                    onClicked: view.threadRequested(row.signalId)
+                    onClicked: view.page.workbench.openThread(row.signalId)
                     onStepped: by => view.stepped(by)
                     onActiveFocusChanged: if (activeFocus) view.lineFocused(row.position)
                 }
-            }
-        }
-
-        Optional {
-            when: view.row.isRailEnd
-
-            DataReceipt {
-                width: view.width
-                page: view.page
             }
         }
     }

@@ -6,7 +6,7 @@ import CorvaniteInformation.Pages
 AppButton {
     id: line
 
-    required property railRow row
+    required property railLineRow row
     /// How many lines the list has.
     required property int count
     /// The one line of the list at which the Tab key stops.
@@ -37,9 +37,7 @@ AppButton {
             stepped((event.key === Qt.Key_Home ? 0 : count - 1) - row.position);
     }
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     AppText {
         id: number

@@ -22,9 +22,7 @@ AppButton {
     Accessible.name: card.row.title
     Accessible.description: card.row.description
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     SignalCardFace {
         id: face

@@ -108,7 +108,7 @@ Item {
                         implicitHeight: 32
                         text: "看变化"
                         restTint: InformationTheme.accent
-                        iconPath: face.expanded ? IconPaths.chevronUp : IconPaths.chevronDown
+                        iconPath: face.expanded ? IconPaths.fold : IconPaths.unfold
                         iconSize: 14
                         iconTrails: true
                         Accessible.description: face.expanded ? "已展开" : "已收起"

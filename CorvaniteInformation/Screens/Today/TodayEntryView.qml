@@ -13,7 +13,6 @@ FocusScope {
     required property real columnWidth
     required property int railStop
 
-    signal threadRequested(signalId: string)
     signal similarReduced(signalId: string)
     signal railLineFocused(position: int)
     signal railStepped(by: int)
@@ -48,7 +47,7 @@ FocusScope {
                     focus: true
                     width: parent.width
                     row: view.row.card
-                    onClicked: view.threadRequested(row.signalId)
+                    onClicked: view.page.workbench.openThread(row.signalId)
                     onKeepToggled: view.page.workbench.toggleKeep(row.signalId)
                     onSimilarReduced: view.similarReduced(row.signalId)
                 }
@@ -81,14 +80,13 @@ FocusScope {
                 width: face.width
                 height: implicitHeight
                 first: view.row.isRailHeading
-                last: view.row.isRailEnd
+                last: false
                 ruled: false
 
                 Column {
                     x: 21
                     width: slice.width - 2 * x
                     topPadding: slice.first ? 20 : 0
-                    bottomPadding: slice.last ? 20 : 0
 
                     RailEntryView {
                         focus: true
@@ -96,7 +94,6 @@ FocusScope {
                         row: view.row
                         page: view.page
                         railStop: view.railStop
-                        onThreadRequested: signalId => view.threadRequested(signalId)
                         onLineFocused: position => view.railLineFocused(position)
                         onStepped: by => view.railStepped(by)
                     }

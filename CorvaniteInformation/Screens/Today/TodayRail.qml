@@ -12,18 +12,11 @@ FocusScope {
     required property TodayPage page
     required property int railStop
 
-    signal threadRequested(signalId: string)
     signal lineFocused(position: int)
 
     readonly property bool receiptPinned: height === 0 || height >= 520
     readonly property int textX: 21
     readonly property real textWidth: width - textX - 20
-
-    Binding {
-        target: rail.page
-        property: "receiptPinned"
-        value: rail.receiptPinned
-    }
 
     Rectangle {
         width: 1
@@ -35,9 +28,9 @@ FocusScope {
         id: lines
 
         width: parent.width
-        height: foot.y
+        height: rail.receiptPinned ? receipt.y : parent.height
         topMargin: 32
-        bottomMargin: rail.receiptPinned ? 0 : 20
+        bottomMargin: rail.receiptPinned ? 0 : receipt.height
         focus: true
         model: rail.page.railEntries
 
@@ -51,15 +44,14 @@ FocusScope {
             width: rail.textWidth
             page: rail.page
             railStop: rail.railStop
-            onThreadRequested: signalId => rail.threadRequested(signalId)
             onLineFocused: position => rail.lineFocused(position)
-            onStepped: by => lines.scroller.focusRow(lines, index + by)
+            onStepped: by => lines.focusRow(index + by)
         }
     }
 
     Rectangle {
         x: 1
-        y: foot.y - height
+        y: receipt.y - height
         width: parent.width - x
         height: 24
         visible: rail.receiptPinned
@@ -75,21 +67,14 @@ FocusScope {
         }
     }
 
-    Column {
-        id: foot
+    DataReceipt {
+        id: receipt
 
+        parent: rail.receiptPinned ? rail : lines.contentItem
         x: rail.textX
-        y: parent.height - height
+        y: rail.receiptPinned ? rail.height - height : lines.originY + lines.contentHeight
         width: rail.textWidth
-
-        Optional {
-            when: rail.receiptPinned
-
-            DataReceipt {
-                width: rail.textWidth
-                bottomPadding: 20
-                page: rail.page
-            }
-        }
+        bottomPadding: 20
+        page: rail.page
     }
 }

@@ -11,8 +11,6 @@ FocusScope {
 
     required property InformationModel workbench
 
-    signal threadRequested(signalId: string)
-
     // Without a width yet, as in the window's usual one: what is laid out twice jumps.
     readonly property bool twoPanes: width === 0 || width >= 980
     readonly property bool wide: width >= 1440
@@ -27,7 +25,7 @@ FocusScope {
         const byKeyboard = (surface.Window.activeFocusItem as Pressable)?.visualFocus ?? false;
         surface.workbench.reduceSimilar(signalId);
         if (byKeyboard)
-            column.scroller.focusRow(column, Math.min(index, column.count - 1));
+            column.focusRow(Math.min(index, column.count - 1));
     }
 
     Window.onActiveChanged: if (Window.active)
@@ -37,8 +35,13 @@ FocusScope {
         id: todayPage
 
         workbench: surface.workbench
-        railBelow: !surface.twoPanes
-        receiptPinned: true
+    }
+
+    JoinedRows {
+        id: joined
+
+        first: todayPage.entries
+        second: surface.twoPanes ? null : todayPage.railEntries
     }
 
     PaneList {
@@ -49,9 +52,9 @@ FocusScope {
         width: surface.width - surface.railWidth
         height: parent.height
         topMargin: surface.wide ? 40 : surface.twoPanes ? 32 : 24
-        bottomMargin: surface.twoPanes ? 24 : 32
+        bottomMargin: (surface.twoPanes ? 24 : 32) + foot.height
         focus: true
-        model: todayPage.entries
+        model: joined
 
         Accessible.role: Accessible.List
         Accessible.name: todayPage.title
@@ -63,10 +66,27 @@ FocusScope {
             columnWidth: column.columnWidth
             page: todayPage
             railStop: surface.railStop
-            onThreadRequested: signalId => surface.threadRequested(signalId)
             onSimilarReduced: signalId => surface.reduce(signalId, index)
             onRailLineFocused: position => surface.railLine = position
-            onRailStepped: by => column.scroller.focusRow(column, index + by)
+            onRailStepped: by => column.focusRow(index + by)
+        }
+
+        Column {
+            id: foot
+
+            parent: column.contentItem
+            x: Math.round((column.width - width) / 2)
+            y: column.originY + column.contentHeight
+            width: column.columnWidth
+
+            Optional {
+                when: !surface.twoPanes
+
+                RailEnd {
+                    width: foot.width
+                    page: todayPage
+                }
+            }
         }
     }
 
@@ -79,7 +99,6 @@ FocusScope {
             height: surface.height
             page: todayPage
             railStop: surface.railStop
-            onThreadRequested: signalId => surface.threadRequested(signalId)
             onLineFocused: position => surface.railLine = position
         }
     }

@@ -61,8 +61,8 @@ CardSlice {
             Repeater {
                 model: day.row.entries
 
-                WeekEntry {
-                    required property weekEntryRow modelData
+                WeekDayEntry {
+                    required property dayEntryRow modelData
 
                     width: list.width
                     row: modelData

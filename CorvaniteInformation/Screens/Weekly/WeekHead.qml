@@ -6,7 +6,7 @@ import CorvaniteInformation.Pages
 Column {
     id: head
 
-    required property weekRow row
+    required property weekHeadRow row
 
     bottomPadding: 16
 

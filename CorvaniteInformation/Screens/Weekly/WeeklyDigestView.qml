@@ -54,7 +54,7 @@ FocusScope {
         delegate: Item {
             id: place
 
-            required property weeklyRow row
+            required property weeklyPlace row
             required property int index
 
             width: list.width

@@ -13,7 +13,7 @@ Row {
 
         Icon {
             anchors.centerIn: parent
-            path: IconPaths.arrowDownToLineCompact
+            path: IconPaths.brand
             size: 20
             color: InformationTheme.brandInk
         }

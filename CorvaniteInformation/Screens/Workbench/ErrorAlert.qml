@@ -9,7 +9,7 @@ Sheet {
     required property InformationModel workbench
 
     /// Kept while the alert fades out.
-    property string message: ""
+    property string message
 
     width: 420
     padding: 28
@@ -19,12 +19,9 @@ Sheet {
     onAboutToHide: alert.workbench.dismissError()
     onOpened: acknowledge.forceActiveFocus(Qt.TabFocusReason)
 
-    Binding {
-        target: alert
-        property: "message"
-        value: alert.workbench.errorMessage
+    LastingBinding on message {
         when: alert.workbench.hasErrorMessage
-        restoreMode: Binding.RestoreNone
+        value: alert.workbench.errorMessage
     }
 
     Column {

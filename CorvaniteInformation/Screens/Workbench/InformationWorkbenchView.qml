@@ -28,12 +28,12 @@ Window {
     // After the first frame, which nothing may delay; the model sees to it that it happens once.
     onFrameSwapped: workbench.probeAppUpdateOnce()
 
-    function openThread(signalId: string) {
-        sheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench, signalId });
-    }
+    readonly property bool threadOpen: workbench.hasOpenThread
+    onThreadOpenChanged: if (threadOpen)
+        threadSheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench })
 
     function openHandIn() {
-        sheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench });
+        handInSheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench });
     }
 
     FramePage {
@@ -69,27 +69,27 @@ Window {
                 SurfaceEntry {
                     surface: InformationModel.Today
                     label: "今天"
-                    iconPath: IconPaths.sparkles
+                    iconPath: IconPaths.today
                 },
                 SurfaceEntry {
                     surface: InformationModel.Kept
                     label: "已收下"
-                    iconPath: IconPaths.squareStack
+                    iconPath: IconPaths.kept
                 },
                 SurfaceEntry {
                     surface: InformationModel.Weekly
                     label: "周报"
-                    iconPath: IconPaths.calendar
+                    iconPath: IconPaths.weekly
                 },
                 SurfaceEntry {
                     surface: InformationModel.Archive
                     label: "往期"
-                    iconPath: IconPaths.clockArrowCirclepath
+                    iconPath: IconPaths.archive
                 },
                 SurfaceEntry {
                     surface: InformationModel.Sources
                     label: "信源"
-                    iconPath: IconPaths.antennaRadiowavesLeftAndRight
+                    iconPath: IconPaths.sources
                 }
             ]
             onHandInRequested: window.openHandIn()
@@ -104,7 +104,6 @@ Window {
             anchors.bottom: footer.top
             focus: true
             workbench: window.workbench
-            onThreadRequested: signalId => window.openThread(signalId)
         }
 
         SiteFooter {
@@ -126,7 +125,11 @@ Window {
     }
 
     SheetLoader {
-        id: sheet
+        id: threadSheet
+    }
+
+    SheetLoader {
+        id: handInSheet
     }
 
     ErrorAlert {

@@ -11,8 +11,8 @@ Item {
     required property real maximumWidth
 
     /// Both are kept while the bar slides out.
-    property string message: ""
-    property bool undoable: false
+    property string message
+    property bool undoable
 
     property real sunk: InformationTheme.reducedMotion ? 0 : 16
 
@@ -60,20 +60,14 @@ Item {
         }
     ]
 
-    Binding {
-        target: bar
-        property: "message"
-        value: bar.workbench.receipt
+    LastingBinding on message {
         when: bar.workbench.hasReceipt
-        restoreMode: Binding.RestoreNone
+        value: bar.workbench.receipt
     }
 
-    Binding {
-        target: bar
-        property: "undoable"
-        value: bar.workbench.canUndo
+    LastingBinding on undoable {
         when: bar.workbench.hasReceipt
-        restoreMode: Binding.RestoreNone
+        value: bar.workbench.canUndo
     }
 
     RaisedGround {
@@ -121,7 +115,7 @@ Item {
         IconButton {
             anchors.verticalCenter: parent.verticalCenter
             text: "关闭回执"
-            iconPath: IconPaths.xMark
+            iconPath: IconPaths.close
             onClicked: bar.workbench.dismissReceipt()
         }
     }

@@ -36,11 +36,7 @@ Rectangle {
         onClicked: LinkOpener.open(footer.page.workbench.sitePage(path))
     }
 
-    Rectangle {
-        width: parent.width
-        height: 1
-        color: InformationTheme.hair
-    }
+    Hairline {}
 
     Row {
         id: notes

@@ -13,7 +13,7 @@ LabelButton {
     leftPadding: 12
     enabled: !running
     text: running ? "同步中" : "同步站点"
-    iconPath: running ? IconPaths.arrowTriangle2Circlepath : IconPaths.arrowDownCircle
+    iconPath: running ? IconPaths.syncing : IconPaths.sync
     iconRotation: spin.running ? turn : 0
     textStyle: InformationTheme.syncLabel
     tint: down ? InformationTheme.ink : InformationTheme.ink2

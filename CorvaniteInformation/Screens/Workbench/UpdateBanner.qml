@@ -11,7 +11,7 @@ Rectangle {
     required property FramePage page
 
     /// Kept while the banner closes.
-    property string message: ""
+    property string message
 
     implicitHeight: page.hasUpdate ? 44 : 0
     visible: implicitHeight > 0
@@ -27,12 +27,9 @@ Rectangle {
         }
     }
 
-    Binding {
-        target: banner
-        property: "message"
-        value: banner.page.updateText
+    LastingBinding on message {
         when: banner.page.hasUpdate
-        restoreMode: Binding.RestoreNone
+        value: banner.page.updateText
     }
 
     WindowMover {
@@ -43,7 +40,7 @@ Rectangle {
     Icon {
         x: 24
         anchors.verticalCenter: parent.verticalCenter
-        path: IconPaths.arrowDownCircleFill
+        path: IconPaths.newerBuild
         filled: true
         size: 18
         color: InformationTheme.accent
@@ -72,7 +69,7 @@ Rectangle {
             text: "获取更新"
             help: banner.page.updateHelp
             restTint: InformationTheme.accent
-            iconPath: IconPaths.arrowUpRight
+            iconPath: IconPaths.openOutside
             iconSize: 14
             iconTrails: true
             onClicked: LinkOpener.open(banner.page.updateAddress)
@@ -82,15 +79,12 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             text: "关闭更新提示"
             help: "关闭更新提示"
-            iconPath: IconPaths.xMark
+            iconPath: IconPaths.close
             onClicked: banner.page.workbench.dismissUpdate()
         }
     }
 
-    Rectangle {
+    Hairline {
         anchors.bottom: parent.bottom
-        width: parent.width
-        height: 1
-        color: InformationTheme.hair
     }
 }

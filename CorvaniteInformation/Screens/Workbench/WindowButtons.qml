@@ -33,7 +33,7 @@ Row {
     IconButton {
         side: 28
         restTint: InformationTheme.ink3
-        iconPath: IconPaths.xMark
+        iconPath: IconPaths.close
         text: "关闭窗口"
         onClicked: buttons.window.close()
     }

@@ -77,7 +77,7 @@ Rectangle {
 
             CitrineButton {
                 text: "添加信息"
-                iconPath: IconPaths.plus
+                iconPath: IconPaths.add
                 iconStroke: 2.25
                 onClicked: header.handInRequested()
             }
@@ -91,10 +91,7 @@ Rectangle {
         }
     }
 
-    Rectangle {
+    Hairline {
         anchors.bottom: parent.bottom
-        width: parent.width
-        height: 1
-        color: InformationTheme.hair
     }
 }

@@ -18,8 +18,6 @@ FocusScope {
 
     readonly property int current: workbench.surface
 
-    signal threadRequested(signalId: string)
-
     Accessible.role: Accessible.Pane
 
     onCurrentChanged: appearing.restart()
@@ -64,7 +62,6 @@ FocusScope {
             visible: today.isCurrent
             focus: visible
             workbench: surfaces.workbench
-            onThreadRequested: signalId => surfaces.threadRequested(signalId)
         }
     }
 
@@ -78,7 +75,6 @@ FocusScope {
             visible: kept.isCurrent
             focus: visible
             workbench: surfaces.workbench
-            onThreadRequested: signalId => surfaces.threadRequested(signalId)
         }
     }
 

@@ -7,10 +7,10 @@
 #include <QtQml/qqmlregistration.h>
 
 /// One line of the list of everything in today's selection.
-struct RailRow
+struct RailLineRow
 {
     Q_GADGET
-    QML_VALUE_TYPE(railRow)
+    QML_VALUE_TYPE(railLineRow)
 
     Q_PROPERTY(QString signalId MEMBER signalId CONSTANT FINAL)
     Q_PROPERTY(int position MEMBER position CONSTANT FINAL)
@@ -22,7 +22,7 @@ struct RailRow
 
 public:
     /// @param position the line's place in the list, from 0
-    static RailRow from(const InformationSignal& signal, bool seen, int position);
+    static RailLineRow from(const InformationSignal& signal, bool seen, int position);
 
     QString signalId;
     int position = 0;
@@ -36,5 +36,5 @@ public:
 
     const QString& key() const { return signalId; }
 
-    friend bool operator==(const RailRow&, const RailRow&) = default;
+    friend bool operator==(const RailLineRow&, const RailLineRow&) = default;
 };

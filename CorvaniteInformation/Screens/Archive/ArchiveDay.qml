@@ -22,9 +22,7 @@ AppButton {
 
     onClicked: section.opened()
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    HandCursor {}
 
     Column {
         id: date
@@ -82,8 +80,8 @@ AppButton {
             Repeater {
                 model: section.row.entries
 
-                ArchiveEntry {
-                    required property archiveEntryRow modelData
+                ArchiveDayEntry {
+                    required property dayEntryRow modelData
 
                     width: list.width
                     row: modelData
@@ -104,7 +102,7 @@ AppButton {
 
             Icon {
                 anchors.verticalCenter: parent.verticalCenter
-                path: IconPaths.chevronRight
+                path: IconPaths.onward
                 size: 14
                 color: InformationTheme.accent
             }

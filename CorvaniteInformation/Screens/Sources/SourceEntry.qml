@@ -12,12 +12,10 @@ Item {
 
     implicitHeight: texts.height + 24
 
-    Rectangle {
+    Hairline {
         x: texts.x
         width: parent.width - x - 24
-        height: 1
         visible: entry.ruled
-        color: InformationTheme.hair
     }
 
     AppText {

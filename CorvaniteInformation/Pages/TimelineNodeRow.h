@@ -8,10 +8,10 @@
 #include <QtQml/qqmlregistration.h>
 
 /// One node of a signal's timeline.
-struct TimelineRow
+struct TimelineNodeRow
 {
     Q_GADGET
-    QML_VALUE_TYPE(timelineRow)
+    QML_VALUE_TYPE(timelineNodeRow)
 
     Q_PROPERTY(QString date MEMBER date CONSTANT FINAL)
     Q_PROPERTY(QString summary MEMBER summary CONSTANT FINAL)
@@ -21,7 +21,7 @@ struct TimelineRow
 
 public:
     /// The signal's present state, then its recorded events in their order.
-    static QList<TimelineRow> timelineOf(const InformationSignal& signal);
+    static QList<TimelineNodeRow> timelineOf(const InformationSignal& signal);
 
     QString date;
     QString summary;
@@ -31,5 +31,5 @@ public:
     bool isNow = false;
     bool isLast = false;
 
-    friend bool operator==(const TimelineRow&, const TimelineRow&) = default;
+    friend bool operator==(const TimelineNodeRow&, const TimelineNodeRow&) = default;
 };

@@ -1,18 +1,18 @@
-#include "TimelineRow.h"
+#include "TimelineNodeRow.h"
 
-QList<TimelineRow> TimelineRow::timelineOf(const InformationSignal& signal)
+QList<TimelineNodeRow> TimelineNodeRow::timelineOf(const InformationSignal& signal)
 {
-    QList<TimelineRow> rows;
+    QList<TimelineNodeRow> rows;
     rows.reserve(signal.timeline.size() + 1);
 
-    TimelineRow now;
+    TimelineNodeRow now;
     now.date = u"现在"_qs;
     now.summary = signal.summary;
     now.isNow = true;
     rows.append(now);
 
     for (const auto& event : signal.timeline) {
-        TimelineRow row;
+        TimelineNodeRow row;
         row.date = event.dateLabel;
         row.summary = event.summary;
         row.source = event.source;

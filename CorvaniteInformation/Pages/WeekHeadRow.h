@@ -11,10 +11,10 @@
 #include <optional>
 
 /// The head of one week of the weekly digest.
-struct WeekRow
+struct WeekHeadRow
 {
     Q_GADGET
-    QML_VALUE_TYPE(weekRow)
+    QML_VALUE_TYPE(weekHeadRow)
 
     Q_PROPERTY(QString range MEMBER range CONSTANT FINAL)
     Q_PROPERTY(QString badge MEMBER badge CONSTANT FINAL)
@@ -24,9 +24,9 @@ struct WeekRow
 public:
     /// @param index the signals that are still there, by id
     /// @param currentWeekId the id of the present week at UTC+8
-    static WeekRow from(const WeeklyDigest::Week& week,
-                        const QHash<QString, InformationSignal>& index,
-                        const std::optional<QString>& currentWeekId);
+    static WeekHeadRow from(const WeeklyDigest::Week& week,
+                            const QHash<QString, InformationSignal>& index,
+                            const std::optional<QString>& currentWeekId);
 
     QString weekId;
     QString range;
@@ -35,5 +35,5 @@ public:
     bool running = false;
     QString summary;
 
-    friend bool operator==(const WeekRow&, const WeekRow&) = default;
+    friend bool operator==(const WeekHeadRow&, const WeekHeadRow&) = default;
 };

@@ -6,7 +6,7 @@ import CorvaniteInformation.Pages
 Item {
     id: entry
 
-    required property archiveEntryRow row
+    required property dayEntryRow row
 
     implicitHeight: line.height
 
@@ -27,6 +27,6 @@ Item {
         x: number.width
         width: parent.width - x
         text: entry.row.title
-        trail: entry.row.lane
+        trail: entry.row.laneTrail
     }
 }

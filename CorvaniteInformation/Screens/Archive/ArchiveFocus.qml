@@ -10,9 +10,7 @@ Item {
 
     implicitHeight: content.y + content.height + 20
 
-    Rectangle {
-        width: parent.width
-        height: 1
+    Hairline {
         color: InformationTheme.hairStrong
     }
 
@@ -98,7 +96,7 @@ Item {
                 anchors.right: parent.right
                 visible: source.enabled
                 text: "看原文"
-                iconPath: IconPaths.arrowUpRight
+                iconPath: IconPaths.openOutside
                 Accessible.description: section.row.title
                 onClicked: LinkOpener.open(section.row.address)
             }

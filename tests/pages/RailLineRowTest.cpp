@@ -1,10 +1,10 @@
-#include "RailRow.h"
+#include "RailLineRow.h"
 #include "SampleSignal.h"
 #include "Subject.h"
 
 #include <QTest>
 
-class RailRowTest : public QObject
+class RailLineRowTest : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ private Q_SLOTS:
     {
         QFETCH(int, position);
 
-        const auto row = RailRow::from(sampleSignal(u"a"_qs), false, position);
+        const auto row = RailLineRow::from(sampleSignal(u"a"_qs), false, position);
 
         QTEST(row.number, "number");
         QTEST(row.position, "position");
@@ -33,14 +33,14 @@ private Q_SLOTS:
     {
         const auto signal = sampleSignal(u"a"_qs);
 
-        QCOMPARE(RailRow::from(signal, false, 0).badge, u"新"_qs);
-        QCOMPARE(RailRow::from(signal, true, 0).badge, u"已看过"_qs);
-        QVERIFY(RailRow::from(signal, true, 0).seen);
+        QCOMPARE(RailLineRow::from(signal, false, 0).badge, u"新"_qs);
+        QCOMPARE(RailLineRow::from(signal, true, 0).badge, u"已看过"_qs);
+        QVERIFY(RailLineRow::from(signal, true, 0).seen);
     }
 
     void namesWhatItOpens()
     {
-        const auto row = RailRow::from(sampleSignal(u"a"_qs), false, 0);
+        const auto row = RailLineRow::from(sampleSignal(u"a"_qs), false, 0);
 
         QCOMPARE(row.key(), u"a"_qs);
         QCOMPARE(row.title, u"Title of a"_qs);
@@ -48,5 +48,5 @@ private Q_SLOTS:
     }
 };
 
-TEST_SUBJECT(RailRowTest)
-#include "RailRowTest.moc"
+TEST_SUBJECT(RailLineRowTest)
+#include "RailLineRowTest.moc"

@@ -1,12 +1,12 @@
-#include "WeekRow.h"
+#include "WeekHeadRow.h"
 
 #include "WeeklyDigestLabels.h"
 
-WeekRow WeekRow::from(const WeeklyDigest::Week& week,
-                      const QHash<QString, InformationSignal>& index,
-                      const std::optional<QString>& currentWeekId)
+WeekHeadRow WeekHeadRow::from(const WeeklyDigest::Week& week,
+                              const QHash<QString, InformationSignal>& index,
+                              const std::optional<QString>& currentWeekId)
 {
-    WeekRow row;
+    WeekHeadRow row;
     row.weekId = week.weekId;
     row.range = WeeklyDigestLabels::range(week.monday, week.sunday);
     row.running = week.weekId == currentWeekId;

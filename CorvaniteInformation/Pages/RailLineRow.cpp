@@ -1,10 +1,10 @@
-#include "RailRow.h"
+#include "RailLineRow.h"
 
 #include "RunningNumber.h"
 
-RailRow RailRow::from(const InformationSignal& signal, bool seen, int position)
+RailLineRow RailLineRow::from(const InformationSignal& signal, bool seen, int position)
 {
-    RailRow row;
+    RailLineRow row;
     row.signalId = signal.id;
     row.position = position;
     row.number = runningNumber(position + 1);

@@ -1,17 +1,17 @@
-#include "TimelineRow.h"
+#include "TimelineNodeRow.h"
 #include "SampleSignal.h"
 #include "Subject.h"
 
 #include <QTest>
 
-class TimelineRowTest : public QObject
+class TimelineNodeRowTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void opensWithThePresentState()
     {
-        const auto rows = TimelineRow::timelineOf(sampleSignal(u"a"_qs));
+        const auto rows = TimelineNodeRow::timelineOf(sampleSignal(u"a"_qs));
 
         QCOMPARE(rows.size(), 1);
         QVERIFY(rows.first().isNow);
@@ -28,7 +28,7 @@ private Q_SLOTS:
             {u"8 月 25 日"_qs, u"2026-08-25T00:00:00Z"_qs, u"首次出现"_qs, u"榜单"_qs},
             {u"2026-08-27"_qs, u"2026-08-27T00:00:00Z"_qs, u"复核"_qs, u"编辑"_qs}};
 
-        const auto rows = TimelineRow::timelineOf(signal);
+        const auto rows = TimelineNodeRow::timelineOf(signal);
 
         QCOMPARE(rows.size(), 3);
         QCOMPARE(rows.at(1).date, u"8 月 25 日"_qs);
@@ -41,5 +41,5 @@ private Q_SLOTS:
     }
 };
 
-TEST_SUBJECT(TimelineRowTest)
-#include "TimelineRowTest.moc"
+TEST_SUBJECT(TimelineNodeRowTest)
+#include "TimelineNodeRowTest.moc"

@@ -1,4 +1,4 @@
-#include "WeekRow.h"
+#include "WeekHeadRow.h"
 #include "InformationSignalIndex.h"
 #include "SampleSignal.h"
 #include "Subject.h"
@@ -27,7 +27,7 @@ WeeklyDigest::Week sampleWeek()
 
 } // namespace
 
-class WeekRowTest : public QObject
+class WeekHeadRowTest : public QObject
 {
     Q_OBJECT
 
@@ -38,21 +38,21 @@ private Q_SLOTS:
     void theBadgeTellsWhetherTheWeekRuns();
 };
 
-void WeekRowTest::aWeekCountsDaysFocusAndLanes()
+void WeekHeadRowTest::aWeekCountsDaysFocusAndLanes()
 {
-    const auto row = WeekRow::from(sampleWeek(), sampleIndex(), std::nullopt);
+    const auto row = WeekHeadRow::from(sampleWeek(), sampleIndex(), std::nullopt);
 
     QCOMPARE(row.range, u"8月24日–8月30日"_qs);
     QCOMPARE(row.summary, u"2 天 · 5 条焦点 · 覆盖 2 条泳道"_qs);
 }
 
-void WeekRowTest::aWeekOfNothingThatIsStillThereCoversNoLane()
+void WeekHeadRowTest::aWeekOfNothingThatIsStillThereCoversNoLane()
 {
-    QCOMPARE(WeekRow::from(sampleWeek(), {}, std::nullopt).summary,
+    QCOMPARE(WeekHeadRow::from(sampleWeek(), {}, std::nullopt).summary,
              u"2 天 · 5 条焦点 · 覆盖 0 条泳道"_qs);
 }
 
-void WeekRowTest::theBadgeTellsWhetherTheWeekRuns_data()
+void WeekHeadRowTest::theBadgeTellsWhetherTheWeekRuns_data()
 {
     QTest::addColumn<QString>("currentWeekId");
     QTest::addColumn<bool>("running");
@@ -62,15 +62,15 @@ void WeekRowTest::theBadgeTellsWhetherTheWeekRuns_data()
     QTest::newRow("an earlier week") << u"2026-W36"_qs << false << u"已定格"_qs;
 }
 
-void WeekRowTest::theBadgeTellsWhetherTheWeekRuns()
+void WeekHeadRowTest::theBadgeTellsWhetherTheWeekRuns()
 {
     QFETCH(QString, currentWeekId);
 
-    const auto row = WeekRow::from(sampleWeek(), sampleIndex(), currentWeekId);
+    const auto row = WeekHeadRow::from(sampleWeek(), sampleIndex(), currentWeekId);
 
     QTEST(row.running, "running");
     QTEST(row.badge, "badge");
 }
 
-TEST_SUBJECT(WeekRowTest)
-#include "WeekRowTest.moc"
+TEST_SUBJECT(WeekHeadRowTest)
+#include "WeekHeadRowTest.moc"

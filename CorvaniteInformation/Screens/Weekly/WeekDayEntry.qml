@@ -6,7 +6,7 @@ import CorvaniteInformation.Pages
 Item {
     id: entry
 
-    required property weekEntryRow row
+    required property dayEntryRow row
 
     implicitHeight: title.height
 

@@ -1,0 +1,9 @@
+import QtQuick
+import CorvaniteInformation.Controls
+
+/// A line of one pixel across what it divides.
+Rectangle {
+    width: parent.width
+    height: 1
+    color: InformationTheme.hair
+}

@@ -1,0 +1,6 @@
+import QtQuick
+
+/// Shows the pointer as a hand over what a press opens.
+HoverHandler {
+    cursorShape: Qt.PointingHandCursor
+}
