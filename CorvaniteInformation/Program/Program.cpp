@@ -67,8 +67,8 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     engine.addImportPath(u":/qt/qml"_qs);
     engine.setInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
                                  {u"reducedMotion"_qs, appearance.reducedMotion()}});
-    engine.load(
-        QUrl(u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
+    engine.load(QUrl(
+        u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
     if (engine.rootObjects().isEmpty()) {
         return EXIT_FAILURE;
     }
