@@ -2,11 +2,12 @@
 
 #include "ArchiveDateLabels.h"
 #include "InformationLane.h"
-#include "InformationModel.h"
 #include "VectorFixtures.h"
 #include "WeeklyDigestLabels.h"
 #include "WorkbenchDateLabels.h"
 #include "WorkbenchTexts.h"
+
+#include <map>
 
 namespace {
 
@@ -64,16 +65,16 @@ QJsonValue preferenceStatusText(const QJsonObject& in)
 
 QJsonValue intakeMessage(const QJsonObject& in)
 {
-    static const QHash<QString, InformationIntakeFailure> failures{
+    static const std::map<QString, InformationIntakeFailure> failures{
         {u"empty"_qs, InformationIntakeFailure::Empty},
         {u"tooLong"_qs, InformationIntakeFailure::TooLong},
         {u"unsupportedURL"_qs, InformationIntakeFailure::UnsupportedURL}};
-    return InformationModel::intakeMessage(failures[text(in, QLatin1StringView("failure"))]);
+    return WorkbenchTexts::intakeMessage(failures.at(text(in, QLatin1StringView("failure"))));
 }
 
 QJsonValue keepReceipt(const QJsonObject& in)
 {
-    return InformationModel::keepReceipt(updateMode(in));
+    return WorkbenchTexts::keepReceipt(updateMode(in));
 }
 
 QJsonValue followText(const QJsonObject& in)
