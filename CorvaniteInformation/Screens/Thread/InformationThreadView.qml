@@ -22,7 +22,7 @@ Sheet {
     title: threadPage.title
     visible: sheet.workbench.hasOpenThread
 
-    onAboutToHide: sheet.workbench.closeThread()
+    onClosed: sheet.workbench.closeThread()
     onOpened: {
         threadPage.markSeen();
         closeButton.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason);
