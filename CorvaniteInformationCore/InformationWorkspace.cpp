@@ -88,6 +88,8 @@ bool InformationWorkspace::hasSeen(const InformationSignal& signal) const
 
 void InformationWorkspace::markSeen(const InformationSignal& signal)
 {
-    appendOnce(seenTargets, signal.followTarget.id);
-    keepLatest(seenTargets);
+    if (!hasSeen(signal)) {
+        seenTargets.append(signal.followTarget.id);
+        keepLatest(seenTargets);
+    }
 }
