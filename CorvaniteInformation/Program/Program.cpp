@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "AppearancePortal.h"
+#include "CommandLine.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
@@ -12,7 +13,25 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
+#include <cstdio>
+
 namespace {
+
+QStringList argumentsOf(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    return arguments;
+}
+
+int tell(const CommandLine::Answer& answer)
+{
+    std::fputs(answer.text.toLocal8Bit().constData(),
+               answer.exitCode == EXIT_SUCCESS ? stdout : stderr);
+    return answer.exitCode;
+}
 
 double secondsNow()
 {
@@ -39,6 +58,9 @@ void chooseTextRendering(double devicePixelRatio)
 
 int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString& version)
 {
+    if (const auto answer = CommandLine::answer(argumentsOf(argc, argv), version)) {
+        return tell(*answer);
+    }
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication application(argc, argv);
     introduce(version);
@@ -59,6 +81,9 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
                         .now = secondsNow,
                         .site = siteClient,
                         .version = version});
+    if (parts.instance().standing() == ProgramInstance::Standing::Unanswered) {
+        return tell(CommandLine::unanswered());
+    }
     if (!parts.model()) {
         return EXIT_SUCCESS;
     }
@@ -67,8 +92,8 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     engine.addImportPath(u":/qt/qml"_qs);
     engine.setInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
                                  {u"reducedMotion"_qs, appearance.reducedMotion()}});
-    engine.load(
-        QUrl(u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
+    engine.load(QUrl(
+        u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
     if (engine.rootObjects().isEmpty()) {
         return EXIT_FAILURE;
     }
