@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-Q_IMPORT_QML_PLUGIN(CorvaniteInformationPlugin)
+Q_IMPORT_QML_PLUGIN(CorvaniteInformation_ControlsPlugin)
 
 using ColorScheme = AppearancePortal::ColorScheme;
 
@@ -30,7 +30,7 @@ private Q_SLOTS:
     {
         m_engine.addImportPath(u":/qt/qml"_qs);
         QQmlComponent component(&m_engine);
-        component.setData("import QtQml\nimport CorvaniteInformation\n"
+        component.setData("import QtQml\nimport CorvaniteInformation.Controls\n"
                           "QtObject { readonly property QtObject theme: InformationTheme }",
                           {});
         m_holder.reset(component.create());

@@ -1,14 +1,13 @@
+#include "QmlModules.h"
+
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlError>
-#include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest>
 
 #include <cstdlib>
-
-Q_IMPORT_QML_PLUGIN(CorvaniteInformationPlugin)
 
 namespace {
 

@@ -1,6 +1,6 @@
 import QtQuick
 import QtTest
-import CorvaniteInformation
+import CorvaniteInformation.Controls
 
 TestCase {
     id: test

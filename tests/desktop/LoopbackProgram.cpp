@@ -1,10 +1,7 @@
 // The program over a site of the test's own: LOOPBACK_SITE_ORIGIN names it.
 
 #include "Program.h"
-
-#include <QtQml/qqmlextensionplugin.h>
-
-Q_IMPORT_QML_PLUGIN(CorvaniteInformationPlugin)
+#include "QmlModules.h"
 
 int main(int argc, char* argv[])
 {

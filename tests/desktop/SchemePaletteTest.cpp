@@ -1,7 +1,7 @@
 #include "SchemePalette.h"
 #include "ColorContrast.h"
-#include "ThemeRules.h"
 #include "Subject.h"
+#include "ThemeRules.h"
 
 #include <QTest>
 

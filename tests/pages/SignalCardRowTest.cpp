@@ -1,4 +1,5 @@
 #include "SignalCardRow.h"
+#include "LaneColor.h"
 #include "SampleSignal.h"
 #include "Subject.h"
 
@@ -34,7 +35,7 @@ private Q_SLOTS:
 
         QCOMPARE(row.signalId, u"a"_qs);
         QCOMPARE(row.key(), u"a"_qs);
-        QCOMPARE(row.lane, u"productRadar"_qs);
+        QCOMPARE(row.laneColor, laneColor(InformationLane::ProductRadar));
         QCOMPARE(row.laneName, u"产品雷达"_qs);
         QCOMPARE(row.title, u"Title of a"_qs);
         QCOMPARE(row.why, u"Why a"_qs);

@@ -1,9 +1,8 @@
 #include "DataFolder.h"
 #include "NextStart.h"
 #include "OrdinaryUser.h"
-#include "ProductSite.h"
+#include "ProgramStart.h"
 #include "SiteDocuments.h"
-#include "StartedProgram.h"
 #include "StoredWorkspace.h"
 #include "Subject.h"
 
@@ -148,7 +147,7 @@ private Q_SLOTS:
         const QByteArray before = folder.content(DataFolder::workspace);
         trouble.arise(folder);
         {
-            StartedProgram program(folder.support(), folder.runtime());
+            ProgramStart program(folder.environment());
             auto& model = program.model();
             QCOMPARE(model.errorText(), trouble.atTheStart);
             const InformationWorkspace shown = model.workspace();
@@ -176,7 +175,7 @@ private Q_SLOTS:
         const DataFolder folder;
         fill(folder, name);
         {
-            StartedProgram program(folder.support(), folder.runtime());
+            ProgramStart program(folder.environment());
             auto& model = program.model();
             QVERIFY(model.addSource(u"先收下一项"_qs));
             const InformationWorkspace shown = model.workspace();
@@ -203,7 +202,7 @@ private Q_SLOTS:
         const DataFolder folder;
         fill(folder, {});
         {
-            StartedProgram program(folder.support(), folder.runtime());
+            ProgramStart program(folder.environment());
             const InformationWorkspace shown = program.model().workspace();
             removeFolder(folder, u"support"_qs);
 
@@ -226,7 +225,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(folder.path(DataFolder::storage)));
         QVERIFY(QFile::link(folder.path(DataFolder::linked), folder.path(DataFolder::workspace)));
         {
-            StartedProgram program(folder.support(), folder.runtime());
+            ProgramStart program(folder.environment());
             QVERIFY(!program.model().hasErrorMessage());
             QVERIFY(program.model().addSource(u"第一项"_qs));
             QCOMPARE(folder.content(DataFolder::linked),
@@ -243,11 +242,11 @@ private Q_SLOTS:
         folder.store(DataFolder::pack + u"/something"_qs, "of value");
         const QByteArray before = folder.content(DataFolder::workspace);
         {
-            StartedProgram program(folder.support(), folder.runtime());
+            ProgramStart program(folder.environment());
             auto& model = program.model();
             const QList<InformationSignal> shown = model.signals();
-            program.site().answers.insert(
-                ProductSite::packPath,
+            program.site.answers.insert(
+                SiteClient::packPath,
                 SiteReply{SiteDocuments::pack(u"2090-01-01T00:00:00Z"_qs, {u"new"_qs}), 200});
 
             model.refreshPackFromSite();

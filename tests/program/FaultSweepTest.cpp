@@ -209,11 +209,6 @@ private Q_SLOTS:
     void theSweepWasWide();
 
 private:
-    SavingProcess::Place placeOf(const DataFolder& folder) const
-    {
-        return {folder.path(), folder.runtime(), m_site.path()};
-    }
-
     void fill(const DataFolder& folder, Stored stored) const;
     Course course(const Scenario& scenario) const;
     void verifyThatAllWasReached(const QStringList& calls, const Plan& plan);
@@ -266,7 +261,7 @@ Course FaultSweepTest::course(const Scenario& scenario) const
 {
     const DataFolder folder;
     fill(folder, scenario.stored);
-    SavingProcess process(placeOf(folder), {});
+    SavingProcess process(folder, m_site.path(), {});
     for (const QString& action : scenario.before) {
         process.act(action);
     }
@@ -303,7 +298,7 @@ void FaultSweepTest::noSaveLosesAnything()
     const DataFolder folder;
     fill(folder, scenario.stored);
 
-    SavingProcess process(placeOf(folder), planText(plan));
+    SavingProcess process(folder, m_site.path(), planText(plan));
     bool isStorageUsable = false;
     if (process.isAlive()) {
         const QString error = process.belief(u"error"_qs);

@@ -22,7 +22,7 @@ private Q_SLOTS:
         if (!refusal.isEmpty()) {
             QSKIP(qUtf8Printable(u"no disk of its own may be mounted here: "_qs + refusal));
         }
-        SavingProcess process(placeOf(folder), {}, onSmallDisk(unmounted, folder));
+        SavingProcess process(folder, m_site.path(), {}, onSmallDisk(unmounted, folder));
         QVERIFY(process.isAlive());
         const QString disk = u"/proc/%1/root"_qs.arg(process.id());
         const auto stored = [&] { return contentOf(disk + folder.path(DataFolder::workspace)); };
@@ -93,7 +93,7 @@ private Q_SLOTS:
             QSKIP(qUtf8Printable(u"strace does not work here: "_qs + refusal));
         }
         SavingProcess process(
-            placeOf(folder), {},
+            folder, m_site.path(), {},
             strace +
                 QStringList{u"-e"_qs, u"inject=%1:%2:when=%3"_qs.arg(calls, fault).arg(number)});
         process.act(u"note"_qs);
@@ -120,11 +120,6 @@ private Q_SLOTS:
 
 private:
     static constexpr int pageBytes = 4096;
-
-    SavingProcess::Place placeOf(const DataFolder& folder) const
-    {
-        return {folder.path(), folder.runtime(), m_site.path()};
-    }
 
     // A command that runs what is appended to it where the folder is a disk of 256 KiB with the
     // contents of the other.

@@ -2,8 +2,8 @@
 
 #include "Browser.h"
 #include "InformationSeed.h"
-#include "WorkbenchWindow.h"
 #include "Subject.h"
+#include "WorkbenchWindow.h"
 
 #include <QNetworkAccessManager>
 #include <QPointer>

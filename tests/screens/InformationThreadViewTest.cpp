@@ -131,7 +131,7 @@ private Q_SLOTS:
         QVERIFY(window().find(title, QAccessible::Heading));
 
         m_visit->sample().site->answers.insert(
-            ProductSite::packPath,
+            SiteClient::packPath,
             SiteReply{.body = SiteDocuments::pack(u"2026-09-03T00:00:00.000Z"_qs, {u"a"_qs}),
                       .status = 200});
         model().refreshPackFromSite();

@@ -1,9 +1,8 @@
 #include "Browser.h"
-#include "ProductSite.h"
 #include "SampleModel.h"
 #include "SiteDocuments.h"
-#include "WorkbenchWindow.h"
 #include "Subject.h"
+#include "WorkbenchWindow.h"
 
 using Surface = InformationModel::Surface;
 
@@ -247,7 +246,7 @@ private Q_SLOTS:
 
     void aSyncSaysThatItRunsAndHowItWent()
     {
-        m_sample->site->heldPaths = {ProductSite::packPath};
+        m_sample->site->heldPaths = {SiteClient::packPath};
         m_window->press(u"同步站点"_qs, QAccessible::Button);
         auto* const button = m_window->awaited(u"同步中"_qs, QAccessible::Button);
         QVERIFY(button);
@@ -284,7 +283,7 @@ private Q_SLOTS:
     {
         const auto address = u"https://corvanite.example/download"_qs;
         m_sample->site->answers.insert(
-            ProductSite::appVersionPath,
+            SiteClient::appVersionPath,
             SiteReply{.body = SiteDocuments::appVersion(u"1.2.3"_qs), .status = 200});
         load();
         QVERIFY(m_window->awaited(u"新版本 1.2.3 已发布"_qs, QAccessible::StaticText));

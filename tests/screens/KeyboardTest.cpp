@@ -55,7 +55,7 @@ private Q_SLOTS:
             .prepare =
                 [](SampleModel& sample) {
                     sample.site->answers.insert(
-                        ProductSite::appVersionPath,
+                        SiteClient::appVersionPath,
                         SiteReply{.body = SiteDocuments::appVersion(u"1.2.3"_qs), .status = 200});
                 },
             .act = [](InformationModel& model) { model.toggleKeep(u"a"_qs); },

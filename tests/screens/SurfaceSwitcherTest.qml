@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
-import CorvaniteInformation
+import CorvaniteInformation.Controls
+import CorvaniteInformation.Screens.Workbench
 
 TestCase {
     id: test

@@ -1,7 +1,7 @@
 #include "NetworkSiteClient.h"
 #include "LoopbackSite.h"
-#include "TestCertificates.h"
 #include "Subject.h"
+#include "TestCertificates.h"
 
 #include <QTest>
 #include <QtEndian>

@@ -14,7 +14,6 @@ private Q_SLOTS:
     void joinsWithOneSlash();
     void namesItsHost_data();
     void namesItsHost();
-    void publishesThreeDocuments();
 };
 
 void ProductSiteTest::takesASecureOrLoopbackOrigin_data()
@@ -100,18 +99,6 @@ void ProductSiteTest::namesItsHost()
     QFETCH(QString, origin);
 
     QTEST(ProductSite::fromOrigin(origin).value().host(), "host");
-}
-
-void ProductSiteTest::publishesThreeDocuments()
-{
-    const auto site = ProductSite::fromOrigin(u"https://corvanite.example"_qs).value();
-
-    QCOMPARE(site.siteOrigin(), QUrl(u"https://corvanite.example"_qs));
-    QCOMPARE(site.productionURL(), QUrl(u"https://corvanite.example/information-pack.json"_qs));
-    QCOMPARE(site.url(ProductSite::retiredSignalsPath),
-             QUrl(u"https://corvanite.example/retired-signals.json"_qs));
-    QCOMPARE(site.url(ProductSite::appVersionPath),
-             QUrl(u"https://corvanite.example/information-app-version.json"_qs));
 }
 
 TEST_SUBJECT(ProductSiteTest)

@@ -4,8 +4,8 @@
 #include "NetworkSiteClient.h"
 #include "SampleSignal.h"
 #include "SiteDocuments.h"
-#include "TestCertificates.h"
 #include "Subject.h"
+#include "TestCertificates.h"
 
 #include <QTest>
 
@@ -43,6 +43,10 @@ class CountingSiteClient final : public SiteClient
 {
 public:
     explicit CountingSiteClient(std::unique_ptr<SiteClient> client) : m_client(std::move(client)) {}
+
+    /// Which the documents of these tests lead to.
+    QString host() const override { return u"corvanite.example"_qs; }
+    QUrl page(const QString& path) const override { return m_client->page(path); }
 
     QCoro::Task<Answer> get(QString path, qsizetype byteLimit) override
     {
@@ -83,7 +87,6 @@ private:
                                             .now = [] { return 0.0; },
                                             .seedHistory = {},
                                             .site = *m_client,
-                                            .allowedHost = u"corvanite.example"_qs,
                                             .runningVersion = u"1.2.3"_qs},
             shownContent(), std::nullopt);
     }

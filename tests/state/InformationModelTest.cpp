@@ -45,7 +45,6 @@ private:
                                             .now = [this] { return m_now; },
                                             .seedHistory = m_seedHistory,
                                             .site = m_site,
-                                            .allowedHost = u"corvanite.example"_qs,
                                             .runningVersion = u"1.0.0"_qs},
             InformationContent(m_signals, m_retired, m_days, m_asOf), repository);
     }

@@ -1,7 +1,6 @@
 #include "FakeSiteClient.h"
 #include "InformationModel.h"
 #include "MemoryFileManager.h"
-#include "ProductSite.h"
 #include "SampleSignal.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
@@ -52,7 +51,7 @@ private:
 
     void offerPack(const QByteArray& pack)
     {
-        setAnswer(ProductSite::packPath, SiteReply{pack, 200});
+        setAnswer(SiteClient::packPath, SiteReply{pack, 200});
     }
 
     void verifyContentUnchanged() const
@@ -74,7 +73,6 @@ private Q_SLOTS:
                                             .now = [] { return 0.0; },
                                             .seedHistory = {},
                                             .site = *m_site,
-                                            .allowedHost = u"corvanite.example"_qs,
                                             .runningVersion = u"1.0.0"_qs},
             shownContent(), InformationWorkspaceRepository::live(*m_files).value());
     }
@@ -122,7 +120,7 @@ void RefreshTest::showsAndStoresANewerPack()
         SiteDocuments::pack(laterAsOf, {u"a"_qs, u"b"_qs}, {u"2026-09-02"_qs, u"2026-09-03"_qs});
     const QByteArray retired = SiteDocuments::retired({u"old"_qs});
     offerPack(pack);
-    setAnswer(ProductSite::retiredSignalsPath, SiteReply{retired, 200});
+    setAnswer(SiteClient::retiredSignalsPath, SiteReply{retired, 200});
 
     m_model->refreshPackFromSite();
 
@@ -141,7 +139,7 @@ void RefreshTest::showsAndStoresANewerPack()
 void RefreshTest::showsTheNewContentAfterARestart()
 {
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}, {u"2026-09-03"_qs}));
-    setAnswer(ProductSite::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
+    setAnswer(SiteClient::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
 
     m_model->refreshPackFromSite();
 
@@ -180,7 +178,7 @@ void RefreshTest::failsWithoutAChange_data()
 void RefreshTest::failsWithoutAChange()
 {
     QFETCH(SiteClient::Answer, answer);
-    setAnswer(ProductSite::packPath, answer);
+    setAnswer(SiteClient::packPath, answer);
 
     m_model->refreshPackFromSite();
 
@@ -246,7 +244,7 @@ void RefreshTest::takesThePackOfTheGreatestLength()
 
 void RefreshTest::takesAnAnswerThatIsNotHttp()
 {
-    setAnswer(ProductSite::packPath,
+    setAnswer(SiteClient::packPath,
               SiteReply{SiteDocuments::pack(laterAsOf, {u"a"_qs}), std::nullopt});
 
     m_model->refreshPackFromSite();
@@ -307,7 +305,7 @@ void RefreshTest::keepsTheRetiredList()
     QFETCH(SiteClient::Answer, answer);
     const QByteArray pack = SiteDocuments::pack(laterAsOf, {u"a"_qs});
     offerPack(pack);
-    setAnswer(ProductSite::retiredSignalsPath, answer);
+    setAnswer(SiteClient::retiredSignalsPath, answer);
 
     m_model->refreshPackFromSite();
 
@@ -336,7 +334,7 @@ void RefreshTest::replacesTheRetiredList()
     QFETCH(QStringList, retired);
     const QByteArray document = SiteDocuments::retired(retired);
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
-    setAnswer(ProductSite::retiredSignalsPath, SiteReply{document, 200});
+    setAnswer(SiteClient::retiredSignalsPath, SiteReply{document, 200});
 
     m_model->refreshPackFromSite();
 
@@ -348,7 +346,7 @@ void RefreshTest::replacesTheRetiredList()
 void RefreshTest::storesABrokenRetiredListUnseen()
 {
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
-    setAnswer(ProductSite::retiredSignalsPath, SiteReply{"broken", 200});
+    setAnswer(SiteClient::retiredSignalsPath, SiteReply{"broken", 200});
 
     m_model->refreshPackFromSite();
 
@@ -363,7 +361,7 @@ void RefreshTest::showsTheStoredRetiredListWhenTheNewOneCannotBeStored()
     m_files->files.insert(retiredFile, stored);
     m_files->writeFailures.insert(retiredFile, FileError{FileError::Reason::NoSpace});
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
-    setAnswer(ProductSite::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"new"_qs}), 200});
+    setAnswer(SiteClient::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"new"_qs}), 200});
 
     m_model->refreshPackFromSite();
 
@@ -375,7 +373,7 @@ void RefreshTest::showsTheStoredRetiredListWhenTheNewOneCannotBeStored()
 void RefreshTest::runsOnceAtATime()
 {
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
-    m_site->heldPaths = {ProductSite::packPath};
+    m_site->heldPaths = {SiteClient::packPath};
 
     m_model->refreshPackFromSite();
     m_model->refreshPackFromSite();
@@ -395,7 +393,7 @@ void RefreshTest::clearsTheNoteWhileItRuns()
     m_model->refreshPackFromSite();
     QCOMPARE(*m_model->packSyncNote(), failedNote);
 
-    m_site->heldPaths = {ProductSite::packPath};
+    m_site->heldPaths = {SiteClient::packPath};
     m_model->refreshPackFromSite();
     QVERIFY(!m_model->packSyncNote());
     QVERIFY(!m_model->packSyncFailed());
@@ -407,7 +405,7 @@ void RefreshTest::clearsTheNoteWhileItRuns()
 void RefreshTest::announcesWhatItReplacedTogether()
 {
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}, {u"2026-09-03"_qs}));
-    setAnswer(ProductSite::retiredSignalsPath, SiteReply{SiteDocuments::retired({}), 200});
+    setAnswer(SiteClient::retiredSignalsPath, SiteReply{SiteDocuments::retired({}), 200});
     QStringList events;
     const auto tell = [this, &events](const QString& event) {
         events.append(QStringList{event, m_model->isSyncingPack() ? u"syncing"_qs : u"still"_qs,
@@ -450,7 +448,7 @@ void RefreshTest::letsDerivedListsFollow()
     QVERIFY(m_model->signalById(u"gone"_qs));
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs, u"b"_qs},
                                   {u"2026-08-24"_qs, u"2026-09-02"_qs, u"2026-09-03"_qs}));
-    setAnswer(ProductSite::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
+    setAnswer(SiteClient::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
 
     m_model->refreshPackFromSite();
 
@@ -480,7 +478,7 @@ void RefreshTest::leavesTheWorkspaceAlone()
     const auto receipt = m_model->receipt();
     const auto files = m_files->files;
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
-    setAnswer(ProductSite::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
+    setAnswer(SiteClient::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
 
     m_model->refreshPackFromSite();
 
@@ -505,8 +503,8 @@ void RefreshTest::endsQuietlyWhenTheModelGoes()
 {
     QFETCH(bool, packHasCome);
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
-    setAnswer(ProductSite::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
-    m_site->heldPaths = {packHasCome ? ProductSite::retiredSignalsPath : ProductSite::packPath};
+    setAnswer(SiteClient::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
+    m_site->heldPaths = {packHasCome ? SiteClient::retiredSignalsPath : SiteClient::packPath};
     m_model->refreshPackFromSite();
     QVERIFY(m_model->isSyncingPack());
 
@@ -520,7 +518,7 @@ void RefreshTest::endsQuietlyWhenTheModelGoes()
 
 void RefreshTest::endsQuietlyWhenTheSiteGoesAfterTheModel()
 {
-    m_site->heldPaths = {ProductSite::packPath, ProductSite::appVersionPath};
+    m_site->heldPaths = {SiteClient::packPath, SiteClient::appVersionPath};
     m_model->refreshPackFromSite();
     m_model->probeAppUpdateOnce();
 

@@ -1,7 +1,6 @@
 #include "FakeSiteClient.h"
 #include "InformationModel.h"
 #include "MemoryFileManager.h"
-#include "ProductSite.h"
 #include "SampleSignal.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
@@ -35,14 +34,13 @@ private:
                                             .now = [] { return 0.0; },
                                             .seedHistory = {},
                                             .site = *m_site,
-                                            .allowedHost = u"corvanite.example"_qs,
                                             .runningVersion = runningVersion},
             InformationContent({}, {}, {}, {}), std::nullopt);
     }
 
     void offer(const QByteArray& document)
     {
-        m_site->answers.insert(ProductSite::appVersionPath, SiteReply{document, 200});
+        m_site->answers.insert(SiteClient::appVersionPath, SiteReply{document, 200});
     }
 
 private Q_SLOTS:
@@ -151,7 +149,7 @@ void UpdateProbeTest::staysSilent_data()
 void UpdateProbeTest::staysSilent()
 {
     QFETCH(SiteClient::Answer, answer);
-    m_site->answers.insert(ProductSite::appVersionPath, answer);
+    m_site->answers.insert(SiteClient::appVersionPath, answer);
 
     m_model->probeAppUpdateOnce();
 
@@ -164,7 +162,7 @@ void UpdateProbeTest::staysSilent()
 
 void UpdateProbeTest::takesAnAnswerThatIsNotHttp()
 {
-    m_site->answers.insert(ProductSite::appVersionPath,
+    m_site->answers.insert(SiteClient::appVersionPath,
                            SiteReply{SiteDocuments::appVersion(u"1.3.0"_qs), std::nullopt});
 
     m_model->probeAppUpdateOnce();
@@ -208,7 +206,7 @@ void UpdateProbeTest::staysAwayOnceDismissed()
 void UpdateProbeTest::endsQuietlyWhenTheModelGoes()
 {
     offer(SiteDocuments::appVersion(u"1.3.0"_qs));
-    m_site->heldPaths = {ProductSite::appVersionPath};
+    m_site->heldPaths = {SiteClient::appVersionPath};
     m_model->probeAppUpdateOnce();
 
     m_model.reset();

@@ -42,6 +42,12 @@ public:
         }
     }
 
+    QString host() const override { return u"corvanite.example"_qs; }
+    QUrl page(const QString& path) const override
+    {
+        return QUrl(u"https://corvanite.example/"_qs + path);
+    }
+
     QCoro::Task<Answer> get(QString path, qsizetype byteLimit) override
     {
         requests.append({path, byteLimit});

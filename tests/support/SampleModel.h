@@ -29,7 +29,6 @@ struct SampleModel
                 .now = [this] { return now; },
                 .seedHistory = {},
                 .site = *site,
-                .allowedHost = u"corvanite.example"_qs,
                 .runningVersion = u"1.0.0"_qs,
             },
             InformationContent(signals, retiredSignals, selectionDays, packAsOf),

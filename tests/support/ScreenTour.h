@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ProductSite.h"
 #include "SampleModel.h"
 #include "SiteDocuments.h"
 #include "WorkbenchWindow.h"
@@ -125,7 +124,7 @@ inline QList<Stop> stops()
     };
     const auto sync = [](const QByteArray& pack) {
         return [pack](SampleModel& sample) {
-            sample.site->answers.insert(ProductSite::packPath,
+            sample.site->answers.insert(SiteClient::packPath,
                                         SiteReply{.body = pack, .status = 200});
         };
     };
@@ -244,7 +243,7 @@ inline QList<Stop> stops()
                  ScreenReader::press(ScreenReader::find(row, u"移除"_qs, QAccessible::Button));
              }},
         {.name = u"syncing"_qs,
-         .prepare = [](SampleModel& sample) { sample.site->heldPaths = {ProductSite::packPath}; },
+         .prepare = [](SampleModel& sample) { sample.site->heldPaths = {SiteClient::packPath}; },
          .open = pressSync},
         {.name = u"synced"_qs,
          .prepare = sync(SiteDocuments::pack(u"2026-09-03T00:00:00.000Z"_qs, {u"n"_qs})),
@@ -257,7 +256,7 @@ inline QList<Stop> stops()
          .prepare =
              [](SampleModel& sample) {
                  sample.site->answers.insert(
-                     ProductSite::appVersionPath,
+                     SiteClient::appVersionPath,
                      SiteReply{.body = SiteDocuments::appVersion(u"1.2.3"_qs), .status = 200});
              },
          .open =

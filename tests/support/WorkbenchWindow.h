@@ -1,17 +1,12 @@
 #pragma once
 
-#include "AppearancePortal.h"
 #include "InformationModel.h"
 #include "ScreenReader.h"
 
-#include <QDBusConnection>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
-#include <QtQml/qqmlextensionplugin.h>
 
 #include <functional>
-
-Q_IMPORT_QML_PLUGIN(CorvaniteInformationPlugin)
 
 /// The program's whole window over a model, which has to outlive it.
 class WorkbenchWindow
@@ -23,10 +18,6 @@ public:
         const std::function<void(QQmlEngine&)>& prepare = [](QQmlEngine&) {})
     {
         prepare(m_engine);
-        // Without motion a screen stands still once its items are laid out.
-        QMetaObject::invokeMethod(
-            &m_appearance, "takeSetting", Q_ARG(QString, u"org.gnome.desktop.interface"_qs),
-            Q_ARG(QString, u"enable-animations"_qs), Q_ARG(QDBusVariant, QDBusVariant(false)));
         QObject::connect(&m_engine, &QQmlEngine::warnings, &m_engine,
                          [this](const QList<QQmlError>& warnings) {
                              for (const auto& warning : warnings) {
@@ -34,12 +25,13 @@ public:
                              }
                          });
         m_engine.addImportPath(u":/qt/qml"_qs);
+        // Without motion a screen stands still once its items are laid out.
         m_engine.setInitialProperties({{u"workbench"_qs, QVariant::fromValue(&model)},
                                        {u"width"_qs, size.width()},
                                        {u"height"_qs, size.height()},
-                                       {u"appearance"_qs, QVariant::fromValue(&m_appearance)},
-                                       {u"siteOrigin"_qs, u"https://corvanite.example/"_qs}});
-        m_engine.load(QUrl(u"qrc:/qt/qml/CorvaniteInformation/InformationWorkbenchView.qml"_qs));
+                                       {u"reducedMotion"_qs, true}});
+        m_engine.load(QUrl(
+            u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
         if (m_engine.rootObjects().isEmpty()) {
             qFatal("The window cannot be made: %s", qPrintable(m_warnings.join(u'\n')));
         }
@@ -114,7 +106,6 @@ public:
     }
 
 private:
-    AppearancePortal m_appearance{QDBusConnection(u"nowhere"_qs)};
     QQmlApplicationEngine m_engine;
     QQuickWindow* m_window = nullptr;
     QStringList m_warnings;

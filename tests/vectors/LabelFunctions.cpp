@@ -8,6 +8,8 @@
 #include "WorkbenchDateLabels.h"
 #include "WorkbenchTexts.h"
 
+#include <map>
+
 namespace {
 
 qsizetype count(const QJsonObject& in, QLatin1StringView key)
@@ -64,11 +66,11 @@ QJsonValue preferenceStatusText(const QJsonObject& in)
 
 QJsonValue intakeMessage(const QJsonObject& in)
 {
-    static const QHash<QString, InformationIntakeFailure> failures{
+    static const std::map<QString, InformationIntakeFailure> failures{
         {u"empty"_qs, InformationIntakeFailure::Empty},
         {u"tooLong"_qs, InformationIntakeFailure::TooLong},
         {u"unsupportedURL"_qs, InformationIntakeFailure::UnsupportedURL}};
-    return InformationModel::intakeMessage(failures[text(in, QLatin1StringView("failure"))]);
+    return InformationModel::intakeMessage(failures.at(text(in, QLatin1StringView("failure"))));
 }
 
 QJsonValue keepReceipt(const QJsonObject& in)

@@ -28,31 +28,10 @@ QJsonValue actionSequence(const QJsonObject& in)
     return states;
 }
 
-QJsonValue intakeMessage(const QJsonObject& in)
-{
-    const QString failure = in.value(QLatin1StringView("failure")).toString();
-    if (failure == u"empty") {
-        return InformationModel::intakeMessage(InformationIntakeFailure::Empty);
-    }
-    if (failure == u"tooLong") {
-        return InformationModel::intakeMessage(InformationIntakeFailure::TooLong);
-    }
-    return InformationModel::intakeMessage(InformationIntakeFailure::UnsupportedURL);
-}
-
-QJsonValue keepReceipt(const QJsonObject& in)
-{
-    return InformationModel::keepReceipt(fromRawValue<InformationFollowUpdateMode>(
-                                             in.value(QLatin1StringView("updateMode")).toString())
-                                             .value());
-}
-
 } // namespace
 
 void addModelFunctions(VectorFunctions& functions)
 {
     functions.insert(u"modelState"_qs, modelState);
     functions.insert(u"actionSequence"_qs, actionSequence);
-    functions.insert(u"intakeMessage"_qs, intakeMessage);
-    functions.insert(u"keepReceipt"_qs, keepReceipt);
 }

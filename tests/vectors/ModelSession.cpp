@@ -2,7 +2,6 @@
 
 #include "InformationProjection.h"
 #include "InformationSeed.h"
-#include "ProductSite.h"
 #include "VectorFixtures.h"
 
 #include <QJsonArray>
@@ -67,7 +66,6 @@ void ModelSession::start(const InformationContent& content)
             .now = [this] { return m_now; },
             .seedHistory = m_seedHistory,
             .site = m_site,
-            .allowedHost = u"corvanite.example"_qs,
             .runningVersion = u"1.0.0"_qs,
         },
         content, m_repository);
@@ -187,8 +185,8 @@ void ModelSession::refresh(const QJsonObject& action)
             VectorFixtures::scriptDocument(reply.toObject().value(QLatin1StringView("doc"))));
     };
     m_site.answers = {
-        {ProductSite::packPath, answer(QLatin1StringView("pack"))},
-        {ProductSite::retiredSignalsPath, answer(QLatin1StringView("retired"))},
+        {SiteClient::packPath, answer(QLatin1StringView("pack"))},
+        {SiteClient::retiredSignalsPath, answer(QLatin1StringView("retired"))},
     };
     m_model->refreshPackFromSite();
 }

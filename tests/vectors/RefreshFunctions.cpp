@@ -3,7 +3,6 @@
 #include "FakeSiteClient.h"
 #include "InformationModel.h"
 #include "MemoryFileManager.h"
-#include "ProductSite.h"
 #include "VectorFixtures.h"
 
 #include <QJsonArray>
@@ -47,9 +46,8 @@ QJsonValue refreshPackFromSite(const QJsonObject& in)
         files.supportDirectory.reset();
     }
     FakeSiteClient site;
-    offer(in.value(QLatin1StringView("packResponse")), ProductSite::packPath, packFile, site,
-          files);
-    offer(in.value(QLatin1StringView("retiredResponse")), ProductSite::retiredSignalsPath,
+    offer(in.value(QLatin1StringView("packResponse")), SiteClient::packPath, packFile, site, files);
+    offer(in.value(QLatin1StringView("retiredResponse")), SiteClient::retiredSignalsPath,
           retiredFile, site, files);
 
     InformationModel model(
@@ -57,7 +55,6 @@ QJsonValue refreshPackFromSite(const QJsonObject& in)
          .now = [] { return 0.0; },
          .seedHistory = {},
          .site = site,
-         .allowedHost = {},
          .runningVersion = {}},
         InformationContent(shortSignals(in.value(QLatin1StringView("signals"))),
                            shortSignals(in.value(QLatin1StringView("retired"))),
@@ -77,9 +74,9 @@ QJsonValue refreshPackFromSite(const QJsonObject& in)
         {u"retired"_qs, ids(model.retiredSignals())},
         {u"selectionDays"_qs, dates},
         {u"packAsOf"_qs, model.packAsOf()},
-        {u"packFile"_qs, storedFile(files, packFile, site.answers.value(ProductSite::packPath))},
+        {u"packFile"_qs, storedFile(files, packFile, site.answers.value(SiteClient::packPath))},
         {u"retiredFile"_qs,
-         storedFile(files, retiredFile, site.answers.value(ProductSite::retiredSignalsPath))},
+         storedFile(files, retiredFile, site.answers.value(SiteClient::retiredSignalsPath))},
     };
 }
 

@@ -58,7 +58,6 @@ QJsonValue startMessage(const QByteArray& document)
                                   .now = [] { return 0.0; },
                                   .seedHistory = {},
                                   .site = site,
-                                  .allowedHost = {},
                                   .runningVersion = {}},
                                  InformationContent({}, {}, {}, {}), repository);
     const auto& message = model.errorMessage();

@@ -1,4 +1,4 @@
-// Runs conformance cases: JSON lines of {"fn", "in", "out", "accept"?}, and a folder of whole
+// Runs example cases: JSON lines of {"fn", "in", "out", "accept"?}, and a folder of whole
 // documents. Ends with 0 when all passed and at least one ran.
 
 #include "JsonComparison.h"

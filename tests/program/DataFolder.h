@@ -2,6 +2,7 @@
 
 #include "FileTree.h"
 
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -26,7 +27,16 @@ public:
         return QDir(QDir(m_root.path()).canonicalPath()).filePath(name);
     }
     QString support() const { return path(u"support"_qs); }
+    /// Where the program's socket is made.
     QString runtime() const { return m_runtime.path(); }
+    /// The system's, with this folder as the reader's.
+    QProcessEnvironment environment() const
+    {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_DATA_HOME"_qs, support());
+        environment.insert(u"XDG_RUNTIME_DIR"_qs, runtime());
+        return environment;
+    }
 
     QByteArray content(const QString& name) const { return contentOf(path(name)); }
     /// Makes the file's folder too.

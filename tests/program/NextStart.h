@@ -1,8 +1,9 @@
 #pragma once
 
 #include "DataFolder.h"
+#include "InformationSeed.h"
 #include "InformationWorkspaceCoding.h"
-#include "StartedProgram.h"
+#include "ProgramStart.h"
 
 #include <QTest>
 
@@ -12,10 +13,10 @@ inline void verifyNextStart(const DataFolder& folder)
 {
     const QByteArray workspace = folder.content(DataFolder::workspace);
     const auto pack = InformationPackSync::parse(folder.content(DataFolder::pack));
-    StartedProgram program(folder.support(), folder.runtime());
+    ProgramStart program(folder.environment());
     auto& model = program.model();
 
-    QCOMPARE(program.standing(), ProgramInstance::Standing::First);
+    QCOMPARE(program.parts.instance().standing(), ProgramInstance::Standing::First);
     QCOMPARE(model.errorText(), QString());
     QCOMPARE(folder.leftovers(), QStringList());
     QCOMPARE(folder.content(DataFolder::workspace), workspace);

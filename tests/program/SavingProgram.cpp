@@ -1,12 +1,11 @@
 // The program without its window, for tests that kill it and fail its system calls. It does the
 // action that each line of its input names and answers with one line of what it believes.
 //
-//     saving_program SUPPORT-FOLDER RUNTIME-FOLDER SITE-FOLDER
+//     saving_program SITE-FOLDER
 
 #include "FileTree.h"
 #include "InformationWorkspaceCoding.h"
-#include "ProductSite.h"
-#include "StartedProgram.h"
+#include "ProgramStart.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -30,11 +29,12 @@ QJsonArray idsOf(const QList<InformationSignal>& signals)
     return ids;
 }
 
-QByteArray belief(StartedProgram& program)
+QByteArray belief(ProgramStart& program)
 {
     const InformationModel& model = program.model();
     return QJsonDocument(QJsonObject{
-                             {u"standing"_qs, QVariant::fromValue(program.standing()).toString()},
+                             {u"standing"_qs,
+                              QVariant::fromValue(program.parts.instance().standing()).toString()},
                              {u"error"_qs, model.errorText()},
                              {u"receipt"_qs, model.receiptText()},
                              {u"syncNote"_qs, model.packSyncNoteText()},
@@ -78,9 +78,9 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    StartedProgram program(arguments.at(1), arguments.at(2));
-    for (const auto path : {ProductSite::packPath, ProductSite::retiredSignalsPath}) {
-        program.site().answers.insert(path, SiteReply{contentOf(arguments.at(3) + path), 200});
+    ProgramStart program(QProcessEnvironment::systemEnvironment());
+    for (const auto path : {SiteClient::packPath, SiteClient::retiredSignalsPath}) {
+        program.site.answers.insert(path, SiteReply{contentOf(arguments.at(1) + path), 200});
     }
     answer(belief(program));
     const auto known = actions();

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "DataFolder.h"
 #include "FaultSettings.h"
-#include "FileTree.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -14,32 +14,24 @@
 class SavingProcess
 {
 public:
-    struct Place
-    {
-        /// Where the calls are counted; the data directory lies in its folder "support".
-        QString counted;
-        /// Where the socket is made, and the trace.
-        QString runtime;
-        /// With what the site publishes.
-        QString site;
-    };
-
     /// Starts it, and waits until it has or is gone.
+    /// @param folder where its calls are counted
+    /// @param site with what the site publishes
     /// @param plan as FaultSettings::plan has it
     /// @param wrapper a command that the program's own is appended to
-    SavingProcess(const Place& place, const QString& plan, QStringList wrapper = {})
-        : m_trace(place.runtime + u"/trace"_qs)
+    SavingProcess(const DataFolder& folder, const QString& site, const QString& plan,
+                  QStringList wrapper = {})
+        : m_trace(folder.runtime() + u"/trace"_qs)
     {
         QFile::remove(m_trace);
-        auto environment = QProcessEnvironment::systemEnvironment();
+        auto environment = folder.environment();
         environment.insert(u"LD_PRELOAD"_qs, QStringLiteral(FAULT_LIBRARY));
-        environment.insert(QLatin1String(FaultSettings::folder), place.counted);
+        environment.insert(QLatin1String(FaultSettings::folder), folder.path());
         environment.insert(QLatin1String(FaultSettings::plan), plan);
         environment.insert(QLatin1String(FaultSettings::trace), m_trace);
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        wrapper.append({QStringLiteral(SAVING_PROGRAM), place.counted + u"/support"_qs,
-                        place.runtime, place.site});
+        wrapper.append({QStringLiteral(SAVING_PROGRAM), site});
         const QString command = wrapper.takeFirst();
         m_process.start(command, wrapper);
         m_belief = nextBelief();

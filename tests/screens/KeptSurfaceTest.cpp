@@ -1,0 +1,98 @@
+#include "Browser.h"
+#include "ScreenTour.h"
+#include "Subject.h"
+
+/// The kept items under the reader's hands.
+class KeptSurfaceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u".?"_qs)); }
+
+    void cleanup() { m_visit.reset(); }
+
+    void anEmptyListLeadsBackToToday()
+    {
+        show({});
+        window().press(u"回到今天"_qs);
+        QCOMPARE(model().surface(), InformationModel::Surface::Today);
+    }
+
+    void onlyAnOriginalThatCanBeOpenedHasALink()
+    {
+        show({u"d"_qs});
+        QVERIFY(window().find(u"看变化"_qs, QAccessible::Button));
+        QVERIFY(!window().find(u"看原文"_qs, QAccessible::Link));
+
+        model().toggleKeep(u"a"_qs);
+        const Browser browser;
+        window().press(u"看原文"_qs, QAccessible::Link);
+        QCOMPARE(browser.opened, QList{QUrl(u"https://origin.example/a"_qs)});
+    }
+
+    void theSearchFollowsTheTyping()
+    {
+        show({u"a"_qs});
+        window().find(u"搜索已收下"_qs, QAccessible::EditableText)->forceActiveFocus();
+
+        window().type("xyz");
+        QCOMPARE(model().search(), u"xyz"_qs);
+        QVERIFY(window().awaited(u"没有匹配的内容"_qs, QAccessible::Heading));
+
+        window().pressKey(Qt::Key_Escape);
+        QCOMPARE(model().search(), QString());
+        QVERIFY(window().awaited(u"Title of a"_qs, QAccessible::ListItem));
+    }
+
+    void removingGivesTheFocusToTheNextRow()
+    {
+        show({u"a"_qs}, {u"一"_qs});
+
+        window().press(u"移除"_qs);
+        QCOMPARE(model().keptItemCount(), 1);
+        QTRY_VERIFY(window().hasFocus(u"一"_qs, QAccessible::ListItem));
+
+        window().press(u"移除"_qs);
+        QCOMPARE(model().keptItemCount(), 0);
+        QTRY_VERIFY(window().hasFocus(u"搜索已收下"_qs, QAccessible::EditableText));
+    }
+
+    void theKeysWalkTheRows()
+    {
+        show({u"a"_qs}, {u"一"_qs, u"二"_qs});
+        window()
+            .awaited(u"Title of a"_qs, QAccessible::ListItem)
+            ->forceActiveFocus(Qt::TabFocusReason);
+
+        for (const auto& [key, name] :
+             {std::pair(Qt::Key_Down, u"一"_qs), std::pair(Qt::Key_End, u"二"_qs),
+              std::pair(Qt::Key_Up, u"一"_qs), std::pair(Qt::Key_Home, u"Title of a"_qs)}) {
+            window().pressKey(key);
+            QVERIFY2(window().hasFocus(name, QAccessible::ListItem), qPrintable(name));
+        }
+    }
+
+private:
+    void show(const QStringList& keptIds, const QStringList& handedIn = {})
+    {
+        m_visit.emplace(ScreenTour::Stop{.name = {}, .act = [&](InformationModel& model) {
+                                             for (const auto& id : keptIds) {
+                                                 model.toggleKeep(id);
+                                             }
+                                             for (const auto& text : handedIn) {
+                                                 model.addSource(text);
+                                             }
+                                             model.dismissReceipt();
+                                             model.setSurface(InformationModel::Surface::Kept);
+                                         }});
+    }
+
+    WorkbenchWindow& window() { return m_visit->window(); }
+    InformationModel& model() { return m_visit->model(); }
+
+    std::optional<ScreenTour::Visit> m_visit;
+};
+
+TEST_SUBJECT(KeptSurfaceTest)
+#include "KeptSurfaceTest.moc"
