@@ -4,6 +4,7 @@
 #include "InformationIntake.h"
 #include "InformationProjection.h"
 #include "InformationSignalIndex.h"
+#include "OpenableAddress.h"
 #include "TodayFocus.h"
 #include "WellFormedText.h"
 #include "WorkbenchTexts.h"
@@ -178,7 +179,8 @@ QString InformationModel::availableUpdateHelp() const
 QString InformationModel::availableUpdateAddress() const
 {
     const auto& update = availableUpdate();
-    return update ? update->downloadURL.toString(QUrl::FullyEncoded) : QString();
+    return update ? OpenableAddress::from(update->downloadURL.toString(QUrl::FullyEncoded))
+                  : QString();
 }
 
 // Actions

@@ -119,6 +119,7 @@ public:
     bool hasAvailableUpdate() const { return availableUpdate().has_value(); }
     QString availableUpdateText() const;
     QString availableUpdateHelp() const;
+    /// Empty where the build's address may not be opened.
     QString availableUpdateAddress() const;
 
     // Derived reads, cached until the content or the workspace changes

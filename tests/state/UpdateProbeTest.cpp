@@ -57,6 +57,7 @@ private Q_SLOTS:
     }
 
     void offersANewerBuild();
+    void offersNoButtonForAnAddressThatIsNotOpened();
     void comparesVersions_data();
     void comparesVersions();
     void staysSilent_data();
@@ -87,6 +88,18 @@ void UpdateProbeTest::offersANewerBuild()
     QCOMPARE(changed.count(), 1);
     QCOMPARE(m_site->requests, QList{versionRequest});
     QVERIFY(m_files.files.isEmpty());
+}
+
+// There was a button, and it did nothing.
+void UpdateProbeTest::offersNoButtonForAnAddressThatIsNotOpened()
+{
+    offer(SiteDocuments::appVersion(
+        u"1.3.0"_qs, {{u"downloadUrl"_qs, u"https://reader@corvanite.example/download"_qs}}));
+
+    m_model->probeAppUpdateOnce();
+
+    QCOMPARE(m_model->availableUpdateText(), u"新版本 1.3.0 已发布"_qs);
+    QCOMPARE(m_model->availableUpdateAddress(), QString());
 }
 
 void UpdateProbeTest::comparesVersions_data()

@@ -70,6 +70,7 @@ Rectangle {
         QuietButton {
             anchors.verticalCenter: parent.verticalCenter
             text: "获取更新"
+            visible: banner.workbench.availableUpdateAddress.length > 0
             help: banner.workbench.availableUpdateHelp
             restTint: InformationTheme.accent
             iconPath: IconPaths.arrowUpRight
