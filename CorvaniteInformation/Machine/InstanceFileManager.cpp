@@ -15,7 +15,9 @@ std::optional<QString> InstanceFileManager::applicationSupportDirectory() const
 std::expected<std::optional<QByteArray>, FileError>
 InstanceFileManager::readFile(const QString& path) const
 {
-    std::ignore = m_instance.hold();
+    if (m_instance.standing() != ProgramInstance::Standing::First) {
+        std::ignore = m_instance.hold();
+    }
     return m_files.readFile(path);
 }
 

@@ -4,8 +4,8 @@
 #include "ProgramInstance.h"
 
 /// The files of this machine as one of several processes may use them: everything is read, but
-/// nothing is stored unless the process holds the data directory. Holding is tried before reading
-/// too, so that no other process can store something between a reading and the storing after it.
+/// nothing is stored unless the process holds the data directory. Where it could not hold it before
+/// it tries again at each reading, so that nobody stores between that and the storing after it.
 class InstanceFileManager final : public InformationFileManager
 {
 public:

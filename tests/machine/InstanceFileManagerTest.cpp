@@ -73,6 +73,19 @@ private Q_SLOTS:
                  FileError::Reason::NotARegularFile);
         QCOMPARE(contentOf(m_path), QByteArray("bytes"));
     }
+
+    void aDirectoryThatCanBeHeldAgainIsHeldBeforeItIsRead()
+    {
+        QVERIFY(QDir().mkpath(m_directory + u"/.lock"_qs));
+        ProgramInstance instance(m_directory, m_local);
+        const InstanceFileManager files(m_local, instance);
+        QVERIFY(QDir().rmdir(m_directory + u"/.lock"_qs));
+
+        QVERIFY(files.readFile(m_path));
+
+        QCOMPARE(InstanceLock::take(m_directory, m_local).error().reason, FileError::Reason::InUse);
+        QVERIFY(files.replaceFile(m_path, "bytes"));
+    }
 };
 
 TEST_SUBJECT(InstanceFileManagerTest)
