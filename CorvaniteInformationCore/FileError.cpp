@@ -49,6 +49,8 @@ QString FileError::localizedDescription() const
         return QStringLiteral("数据目录不存在，也无法创建。");
     case Reason::InputOutput:
         return QStringLiteral("读写出错；请检查磁盘。");
+    case Reason::InUse:
+        return QStringLiteral("数据目录正由另一个运行中的程序使用。");
     case Reason::Other:
         return QStringLiteral("文件操作没有完成（") +
                QString::fromLocal8Bit(std::generic_category().message(systemError)) +

@@ -16,6 +16,8 @@ struct FileError
         /// The path's folder is gone and cannot be made.
         FolderMissing,
         InputOutput,
+        /// Another running program works with the data directory.
+        InUse,
         Other
     };
 

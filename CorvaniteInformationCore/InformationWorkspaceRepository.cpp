@@ -62,14 +62,18 @@ InformationWorkspaceRepository::load(const InformationFileManager& fileManager) 
     return *std::move(current);
 }
 
-std::expected<void, FileError>
+std::expected<QByteArray, FileError>
 InformationWorkspaceRepository::save(const InformationWorkspace& workspace,
                                      const InformationFileManager& fileManager) const
 {
     if (const auto made = fileManager.createDirectory(QFileInfo(filePath).path()); !made) {
-        return made;
+        return std::unexpected(made.error());
     }
-    return fileManager.replaceFile(filePath, document(workspace));
+    auto stored = document(workspace);
+    if (const auto replaced = fileManager.replaceFile(filePath, stored); !replaced) {
+        return std::unexpected(replaced.error());
+    }
+    return stored;
 }
 
 std::expected<InformationWorkspace, InformationRepositoryError>

@@ -31,9 +31,10 @@ struct InformationWorkspaceRepository
     std::expected<InformationWorkspace, LoadError>
     load(const InformationFileManager& fileManager) const;
 
-    /// Replaces the file, making its folder where needed; on failure the file is as it was.
-    std::expected<void, FileError> save(const InformationWorkspace& workspace,
-                                        const InformationFileManager& fileManager) const;
+    /// Replaces the file, making its folder where needed, and gives what it holds now; on failure
+    /// the file is as it was.
+    std::expected<QByteArray, FileError> save(const InformationWorkspace& workspace,
+                                              const InformationFileManager& fileManager) const;
 
     friend bool operator==(const InformationWorkspaceRepository&,
                            const InformationWorkspaceRepository&) = default;

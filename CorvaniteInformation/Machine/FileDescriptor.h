@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include <utility>
+
 /// Owns an open file descriptor, or none (negative).
 class FileDescriptor
 {
@@ -13,19 +15,18 @@ public:
             ::close(m_descriptor);
         }
     }
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
+    FileDescriptor(FileDescriptor&& other) noexcept : m_descriptor(other.release()) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept
+    {
+        std::swap(m_descriptor, other.m_descriptor);
+        return *this;
+    }
 
     bool isOpen() const { return m_descriptor >= 0; }
     int get() const { return m_descriptor; }
 
     /// Gives the descriptor away.
-    int release()
-    {
-        const int descriptor = m_descriptor;
-        m_descriptor = -1;
-        return descriptor;
-    }
+    int release() { return std::exchange(m_descriptor, -1); }
 
 private:
     int m_descriptor;

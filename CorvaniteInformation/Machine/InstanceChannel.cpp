@@ -4,59 +4,67 @@
 #include <QDir>
 #include <QFile>
 #include <QLocalSocket>
-#include <QThread>
+
+#include <sys/socket.h>
+#include <unistd.h>
 
 namespace {
 
-constexpr int attempts = 40;
-constexpr unsigned long pauseMilliseconds = 50;
-constexpr int answerPatienceMilliseconds = 2000;
-constexpr qsizetype hashLength = 16;
+constexpr qsizetype hashLength = 32;
+constexpr char answer = '\n';
+
+// Names of the abstract namespace have no owner; the two ends of a connection have.
+bool isOfThisUser(const QLocalSocket& socket)
+{
+    ucred peer = {};
+    socklen_t size = sizeof peer;
+    return ::getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer,
+                        &size) == 0 &&
+           peer.uid == ::geteuid();
+}
 
 } // namespace
 
-QString InstanceChannel::socketPath(const QString& dataDirectory,
-                                    const QProcessEnvironment& environment)
+QString InstanceChannel::nameFor(const QString& dataDirectory)
 {
-    const auto canonicalDirectory = QFile::encodeName(QDir(dataDirectory).canonicalPath());
+    const QDir directory(dataDirectory);
+    const auto path = directory.exists() ? directory.canonicalPath() : directory.absolutePath();
     const auto hash =
-        QCryptographicHash::hash(canonicalDirectory, QCryptographicHash::Sha256).toHex();
-    const auto runtimeDirectory = environment.value(u"XDG_RUNTIME_DIR"_qs);
-    return u"%1/corvanite-information-%2"_qs.arg(
-        QDir::isAbsolutePath(runtimeDirectory) ? runtimeDirectory : dataDirectory,
-        QString::fromLatin1(hash.left(hashLength)));
+        QCryptographicHash::hash(QFile::encodeName(path), QCryptographicHash::Sha256).toHex();
+    return u"corvanite-information-%1-%2"_qs.arg(QString::number(::geteuid()),
+                                                 QString::fromLatin1(hash.left(hashLength)));
 }
 
-bool InstanceChannel::requestActivation(const QString& socketPath)
+bool InstanceChannel::requestActivation(const QString& name,
+                                        std::chrono::milliseconds answerPatience)
 {
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        QLocalSocket socket;
-        socket.connectToServer(socketPath);
-        if (socket.waitForConnected()) {
-            return socket.state() == QLocalSocket::UnconnectedState ||
-                   socket.waitForDisconnected(answerPatienceMilliseconds);
-        }
-        QThread::msleep(pauseMilliseconds);
-    }
-    return false;
+    QLocalSocket socket;
+    socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+    socket.connectToServer(name);
+    return socket.waitForConnected() && isOfThisUser(socket) &&
+           (socket.bytesAvailable() > 0 ||
+            socket.waitForReadyRead(static_cast<int>(answerPatience.count())));
 }
 
 InstanceChannel::InstanceChannel(QObject* parent) : QObject(parent)
 {
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    m_server.setSocketOptions(QLocalServer::AbstractNamespaceOption);
     connect(&m_server, &QLocalServer::newConnection, this, &InstanceChannel::takeRequests);
 }
 
-bool InstanceChannel::listen(const QString& socketPath)
+bool InstanceChannel::listen(const QString& name)
 {
-    QLocalServer::removeServer(socketPath);
-    return m_server.listen(socketPath);
+    return m_server.listen(name);
 }
 
 void InstanceChannel::takeRequests()
 {
     while (auto* const request = m_server.nextPendingConnection()) {
+        if (isOfThisUser(*request)) {
+            request->write(&answer, sizeof answer);
+            request->flush();
+            Q_EMIT activationRequested();
+        }
         delete request;
-        Q_EMIT activationRequested();
     }
 }

@@ -2,28 +2,31 @@
 
 #include <QLocalServer>
 #include <QObject>
-#include <QProcessEnvironment>
+#include <QString>
 
-/// How a second start of the program reaches the running one: a local socket whose name stands for
-/// the data directory. A connection is the whole message.
+#include <chrono>
+
+/// How a second start of the program reaches the running one: a local socket in the kernel's
+/// abstract namespace, whose name stands for the data directory. A connection is the whole message,
+/// one byte the whole answer, and other users of the machine are not heard.
 class InstanceChannel : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The socket of a data directory, in `$XDG_RUNTIME_DIR`, or in the directory itself where the
-    /// environment names none.
-    static QString socketPath(const QString& dataDirectory, const QProcessEnvironment& environment);
+    /// The same for every start with the directory, whatever else their environments name.
+    static QString nameFor(const QString& dataDirectory);
 
-    /// Asks the running program to come up, and waits until it has taken the request. It may still
-    /// be starting, so the call tries for a short while before it gives up and answers false.
-    static bool requestActivation(const QString& socketPath);
+    /// Asks the program that listens under the name to come up. Whether it has answered; one that
+    /// is still starting answers once it has started.
+    static bool
+    requestActivation(const QString& name,
+                      std::chrono::milliseconds answerPatience = std::chrono::seconds(20));
 
     explicit InstanceChannel(QObject* parent = nullptr);
 
-    /// Takes requests from now on, in the place of whatever a killed program left there. Only the
-    /// holder of the data directory's lock may call it.
-    bool listen(const QString& socketPath);
+    /// Takes requests from now on. False where another program listens under the name.
+    bool listen(const QString& name);
 
 Q_SIGNALS:
     void activationRequested();

@@ -7,47 +7,63 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
+#include <sys/stat.h>
 
 namespace {
 
-constexpr int noDescriptor = -1;
+std::unexpected<FileError> systemFailure()
+{
+    return std::unexpected(FileError::fromSystemError(errno));
+}
+
+const std::unexpected<FileError> inUse(FileError{FileError::Reason::InUse});
 
 } // namespace
 
-std::expected<InstanceLock, InstanceLock::Failure>
-InstanceLock::take(const QString& directory, const InformationFileManager& fileManager)
+InstanceLock::InstanceLock(QByteArray path, FileDescriptor file)
+    : m_path(std::move(path)), m_file(std::move(file))
 {
-    if (!fileManager.createDirectory(directory)) {
-        return std::unexpected(Failure::Unavailable);
+}
+
+std::expected<InstanceLock, FileError> InstanceLock::take(const QString& directory,
+                                                          const InformationFileManager& fileManager)
+{
+    if (const auto made = fileManager.createDirectory(directory); !made) {
+        return std::unexpected(made.error());
     }
     const auto path = QFile::encodeName(directory + u"/.lock"_qs);
-    const int descriptor =
-        ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
-    if (descriptor == noDescriptor) {
-        return std::unexpected(Failure::Unavailable);
+    FileDescriptor file(
+        ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
+    if (!file.isOpen()) {
+        return systemFailure();
     }
-    InstanceLock lock(descriptor);
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-        return std::unexpected(errno == EWOULDBLOCK ? Failure::Held : Failure::Unavailable);
+    if (::flock(file.get(), LOCK_EX | LOCK_NB) != 0) {
+        return errno == EWOULDBLOCK ? inUse : systemFailure();
+    }
+    InstanceLock lock(path, std::move(file));
+    const auto isInPlace = lock.isInPlace();
+    if (!isInPlace) {
+        return std::unexpected(isInPlace.error());
+    }
+    // Else the file was deleted before it was locked, and another program may hold the next one.
+    if (!*isInPlace) {
+        return inUse;
     }
     return lock;
 }
 
-InstanceLock::InstanceLock(InstanceLock&& other) noexcept
-    : m_descriptor(std::exchange(other.m_descriptor, noDescriptor))
+std::expected<bool, FileError> InstanceLock::isInPlace() const
 {
-}
-
-InstanceLock& InstanceLock::operator=(InstanceLock&& other) noexcept
-{
-    std::swap(m_descriptor, other.m_descriptor);
-    return *this;
-}
-
-InstanceLock::~InstanceLock()
-{
-    if (m_descriptor != noDescriptor) {
-        ::close(m_descriptor);
+    struct stat locked = {};
+    struct stat present = {};
+    if (::fstat(m_file.get(), &locked) != 0) {
+        return systemFailure();
     }
+    if (::lstat(m_path.constData(), &present) != 0) {
+        if (errno == ENOENT || errno == ENOTDIR) {
+            return false;
+        }
+        return systemFailure();
+    }
+    return locked.st_dev == present.st_dev && locked.st_ino == present.st_ino;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "FileDescriptor.h"
 #include "InformationFileManager.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <expected>
@@ -11,24 +13,18 @@
 class InstanceLock
 {
 public:
-    enum class Failure {
-        /// Another running program holds the lock.
-        Held,
-        /// The directory or the file cannot be made or locked.
-        Unavailable
-    };
-
     /// Takes the lock without waiting; makes the directory and the file where needed, for this
-    /// user only.
-    static std::expected<InstanceLock, Failure> take(const QString& directory,
-                                                     const InformationFileManager& fileManager);
+    /// user only. The error is `InUse` where another running program holds the lock.
+    static std::expected<InstanceLock, FileError> take(const QString& directory,
+                                                       const InformationFileManager& fileManager);
 
-    InstanceLock(InstanceLock&& other) noexcept;
-    InstanceLock& operator=(InstanceLock&& other) noexcept;
-    ~InstanceLock();
+    /// Whether the locked file still is the directory's. One that was deleted, alone or with its
+    /// folder, keeps nobody away from what took its place.
+    std::expected<bool, FileError> isInPlace() const;
 
 private:
-    explicit InstanceLock(int descriptor) : m_descriptor(descriptor) {}
+    InstanceLock(QByteArray path, FileDescriptor file);
 
-    int m_descriptor;
+    QByteArray m_path;
+    FileDescriptor m_file;
 };

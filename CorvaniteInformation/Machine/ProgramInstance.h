@@ -5,7 +5,6 @@
 #include "LocalFileManager.h"
 
 #include <QObject>
-#include <QProcessEnvironment>
 
 #include <optional>
 
@@ -17,25 +16,40 @@ class ProgramInstance : public QObject
 
 public:
     enum class Standing {
+        /// Holds the directory.
         First,
+        /// The first has been asked to come up.
         Later,
-        /// The directory cannot be held, so nothing may be stored in it.
-        WithoutStorage
+        /// Another process holds the directory and does not answer.
+        Unanswered,
+        /// The directory cannot be held for now: it may be read, and `hold` says why nothing can be
+        /// stored in it.
+        WithoutLock
     };
     Q_ENUM(Standing)
 
     /// @param dataDirectory nothing where the environment names none
+    /// @param fileManager outlives the instance
     ProgramInstance(const std::optional<QString>& dataDirectory,
-                    const LocalFileManager& fileManager, const QProcessEnvironment& environment);
+                    const LocalFileManager& fileManager);
 
     Standing standing() const { return m_standing; }
+
+    /// To be called before anything is stored in the directory. Holds it anew where it was deleted
+    /// meanwhile or could not be held before; never beside another process.
+    std::expected<void, FileError> hold();
 
 Q_SIGNALS:
     /// A later start asks this process to come up.
     void activationRequested();
 
 private:
+    Standing findStanding();
+    void become(InstanceLock lock);
+
+    const std::optional<QString> m_dataDirectory;
+    const LocalFileManager& m_fileManager;
     std::optional<InstanceLock> m_lock;
     InstanceChannel m_channel;
-    Standing m_standing = Standing::WithoutStorage;
+    Standing m_standing = Standing::WithoutLock;
 };

@@ -1,5 +1,7 @@
 #include "FramePage.h"
 
+#include "OpenableAddress.h"
+
 #include <utility>
 
 void FramePage::follow(const InformationModel& workbench)
@@ -20,7 +22,8 @@ void FramePage::show(const InformationModel& workbench)
     if (const auto& update = workbench.availableUpdate()) {
         texts.updateText = u"新版本 %1 已发布"_qs.arg(update->version);
         texts.updateHelp = u"获取 Corvanite Information 新版本 %1"_qs.arg(update->version);
-        texts.updateAddress = update->downloadURL.toString(QUrl::FullyEncoded);
+        texts.updateAddress =
+            OpenableAddress::from(update->downloadURL.toString(QUrl::FullyEncoded));
     }
     if (m_texts != texts) {
         m_texts = std::move(texts);

@@ -19,6 +19,7 @@ class FramePage : public WorkbenchPage
     Q_PROPERTY(bool hasUpdate READ hasUpdate NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString updateText READ updateText NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString updateHelp READ updateHelp NOTIFY textsChanged FINAL)
+    /// Empty where the build's address may not be opened.
     Q_PROPERTY(QString updateAddress READ updateAddress NOTIFY textsChanged FINAL)
 
 public:

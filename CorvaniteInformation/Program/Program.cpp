@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "AppearancePortal.h"
+#include "CommandLine.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
@@ -15,9 +16,26 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 
+#include <cstdio>
 #include <memory>
 
 namespace {
+
+QStringList argumentsOf(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    return arguments;
+}
+
+int tell(const CommandLine::Answer& answer)
+{
+    std::fputs(answer.text.toLocal8Bit().constData(),
+               answer.exitCode == EXIT_SUCCESS ? stdout : stderr);
+    return answer.exitCode;
+}
 
 double secondsNow()
 {
@@ -46,6 +64,9 @@ void chooseTextRendering(double devicePixelRatio)
 
 int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString& version)
 {
+    if (const auto answer = CommandLine::answer(argumentsOf(argc, argv), version)) {
+        return tell(*answer);
+    }
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication application(argc, argv);
     introduce(version);
@@ -66,6 +87,9 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
                         .now = secondsNow,
                         .site = siteClient,
                         .version = version});
+    if (parts.instance().standing() == ProgramInstance::Standing::Unanswered) {
+        return tell(CommandLine::unanswered());
+    }
     if (!parts.model()) {
         return EXIT_SUCCESS;
     }

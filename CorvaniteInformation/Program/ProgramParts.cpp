@@ -1,19 +1,13 @@
 #include "ProgramParts.h"
 
+#include "InformationPackSync.h"
 #include "InformationSeed.h"
 
 #include <utility>
 
 namespace {
 
-std::optional<QString> writableDirectory(const LocalFileManager& machine,
-                                         ProgramInstance::Standing standing)
-{
-    return standing == ProgramInstance::Standing::First ? machine.applicationSupportDirectory()
-                                                        : std::nullopt;
-}
-
-std::optional<InformationWorkspaceRepository> repository(const LocalFileManager& fileManager)
+std::optional<InformationWorkspaceRepository> repository(const InformationFileManager& fileManager)
 {
     auto live = InformationWorkspaceRepository::live(fileManager);
     return live ? std::optional(*std::move(live)) : std::nullopt;
@@ -23,11 +17,12 @@ std::optional<InformationWorkspaceRepository> repository(const LocalFileManager&
 
 ProgramParts::ProgramParts(const Surroundings& surroundings)
     : m_machine(LocalFileManager::applicationSupportDirectory(surroundings.environment)),
-      m_instance(InformationPackSync::liveDirectory(m_machine), m_machine,
-                 surroundings.environment),
-      m_fileManager(writableDirectory(m_machine, m_instance.standing()))
+      m_instance(InformationPackSync::liveDirectory(m_machine), m_machine),
+      m_fileManager(m_machine, m_instance)
 {
-    if (m_instance.standing() == ProgramInstance::Standing::Later) {
+    const auto standing = m_instance.standing();
+    if (standing == ProgramInstance::Standing::Later ||
+        standing == ProgramInstance::Standing::Unanswered) {
         return;
     }
     m_model.emplace(

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "InformationModel.h"
-#include "LocalFileManager.h"
-#include "ProgramInstance.h"
+#include "InstanceFileManager.h"
 
 #include <QProcessEnvironment>
 #include <QString>
@@ -29,13 +28,12 @@ public:
     explicit ProgramParts(const Surroundings& surroundings);
 
     const ProgramInstance& instance() const { return m_instance; }
-    /// Nothing for a later start, which should end.
+    /// Nothing where another process works with the data directory, and this one should end.
     InformationModel* model() { return m_model ? &*m_model : nullptr; }
 
 private:
     const LocalFileManager m_machine;
-    const ProgramInstance m_instance;
-    /// Without a directory where the program must not store.
-    const LocalFileManager m_fileManager;
+    ProgramInstance m_instance;
+    const InstanceFileManager m_fileManager;
     std::optional<InformationModel> m_model;
 };

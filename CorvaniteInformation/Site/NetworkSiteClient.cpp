@@ -1,5 +1,8 @@
 #include "NetworkSiteClient.h"
 
+#include "BodyLength.h"
+#include "SiteRequest.h"
+
 #include <QCoroNetworkReply>
 #include <QNetworkReply>
 #include <QTimer>
@@ -31,9 +34,10 @@ void readOn(QNetworkReply& reply, QByteArray& body, qsizetype byteLimit)
 // Qt 6.4 takes many a body that was cut short for a whole one.
 bool isCutShort(const QNetworkReply& reply, const QByteArray& body)
 {
-    const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
-    return announced.isValid() && !reply.hasRawHeader("Content-Encoding") &&
-           body.size() < announced.toLongLong();
+    const QVariant length = reply.header(QNetworkRequest::ContentLengthHeader);
+    const auto announced =
+        length.isValid() ? std::optional(length.toLongLong()) : std::optional<qint64>();
+    return BodyLength::isCutShort(announced, reply.rawHeader("Content-Encoding"), body.size());
 }
 
 SiteClient::Answer answerIn(const QNetworkReply& reply, const QByteArray& body, qsizetype byteLimit)
@@ -50,11 +54,6 @@ SiteClient::Answer answerIn(const QNetworkReply& reply, const QByteArray& body, 
         return std::unexpected(SiteError::Transport);
     }
     return SiteReply{body, status};
-}
-
-bool isSafeStep(const QUrl& from, const QUrl& to)
-{
-    return to.scheme() == u"https" || (to.scheme() == u"http" && from.scheme() == u"http");
 }
 
 } // namespace
@@ -81,7 +80,7 @@ QCoro::Task<SiteClient::Answer> NetworkSiteClient::get(QString path, qsizetype b
             co_return response.answer;
         }
         const QUrl target = url.resolved(*response.redirectTarget);
-        if (!isSafeStep(url, target)) {
+        if (!m_site.owns(target)) {
             break;
         }
         url = target;
@@ -92,7 +91,8 @@ QCoro::Task<SiteClient::Answer> NetworkSiteClient::get(QString path, qsizetype b
 QCoro::Task<NetworkSiteClient::Response> NetworkSiteClient::load(QUrl url, qsizetype byteLimit,
                                                                  QDeadlineTimer deadline)
 {
-    const std::unique_ptr<QNetworkReply, DeleteLater> reply(m_network.get(request(url)));
+    const std::unique_ptr<QNetworkReply, DeleteLater> reply(
+        m_network.get(siteRequest(url, m_limits.silence)));
     // What waits unread is bounded, yet never less than a body that is taken: Qt 6.4 may wait for
     // ever at a full buffer whose connection has ended.
     reply->setReadBufferSize(byteLimit + 1);
@@ -117,20 +117,4 @@ QCoro::Task<NetworkSiteClient::Response> NetworkSiteClient::load(QUrl url, qsize
     const QVariant target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute);
     co_return Response{answerIn(*reply, body, byteLimit),
                        target.isValid() ? std::optional(target.toUrl()) : std::nullopt};
-}
-
-QNetworkRequest NetworkSiteClient::request(const QUrl& url) const
-{
-    QNetworkRequest request(url);
-    request.setHeader(QNetworkRequest::UserAgentHeader, u"CorvaniteInformation"_qs);
-    request.setRawHeader("Accept-Language", "zh-CN");
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    // Over HTTP/2 the read buffer's size holds nothing back.
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::ManualRedirectPolicy);
-    request.setTransferTimeout(static_cast<int>(m_limits.silence.count()));
-    return request;
 }

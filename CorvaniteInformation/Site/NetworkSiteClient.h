@@ -39,7 +39,6 @@ private:
 
     /// One step of a request, without following where it leads.
     QCoro::Task<Response> load(QUrl url, qsizetype byteLimit, QDeadlineTimer deadline);
-    QNetworkRequest request(const QUrl& url) const;
 
     const ProductSite m_site;
     const Limits m_limits;

@@ -11,6 +11,12 @@ bool isLoopback(const QString& host)
     return host == u"localhost" || QHostAddress(host).isLoopback();
 }
 
+QString withoutWww(const QString& host)
+{
+    constexpr QStringView www(u"www.");
+    return host.startsWith(www) ? host.sliced(www.size()) : host;
+}
+
 } // namespace
 
 ProductSite::ProductSite(QUrl siteOrigin) : m_siteOrigin(std::move(siteOrigin)) {}
@@ -25,6 +31,13 @@ std::optional<ProductSite> ProductSite::fromOrigin(const QString& origin)
         return std::nullopt;
     }
     return ProductSite(url);
+}
+
+bool ProductSite::owns(const QUrl& url) const
+{
+    return url.isValid() && url.scheme() == m_siteOrigin.scheme() &&
+           withoutWww(url.host(QUrl::FullyEncoded)) == withoutWww(host()) &&
+           url.userInfo().isEmpty();
 }
 
 QUrl ProductSite::url(const QString& path) const

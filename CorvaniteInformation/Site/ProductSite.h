@@ -16,6 +16,9 @@ public:
     const QUrl& siteOrigin() const { return m_siteOrigin; }
     /// In the form that addresses are compared in: lower case, an international name in ASCII.
     QString host() const { return m_siteOrigin.host(QUrl::FullyEncoded); }
+    /// Whether the address lies on the site: its scheme and host, or the host with or without a
+    /// leading "www.", and no user information.
+    bool owns(const QUrl& url) const;
     /// The path below the base URL, joined with exactly one "/".
     QUrl url(const QString& path) const;
 

@@ -23,11 +23,13 @@ QList<InformationSignal> withoutKnownIds(QList<InformationSignal> signals, QSet<
 InformationContent::InformationContent(QList<InformationSignal> signals,
                                        QList<InformationSignal> retiredSignals,
                                        QList<SelectionDay> selectionDays, QString packAsOf)
-    : m_selectionDays(std::move(selectionDays)), m_packAsOf(std::move(packAsOf))
+    : m_retiredList(std::move(retiredSignals)),
+      m_selectionDays(std::move(selectionDays)),
+      m_packAsOf(std::move(packAsOf))
 {
     QSet<QString> knownIds;
     m_signals = withoutKnownIds(std::move(signals), knownIds);
-    m_retiredSignals = withoutKnownIds(std::move(retiredSignals), knownIds);
+    m_retiredSignals = withoutKnownIds(m_retiredList, knownIds);
 }
 
 InformationContent InformationContent::seed()
@@ -54,7 +56,7 @@ InformationContent
 InformationContent::replacedBy(const InformationPackSync::Snapshot& snapshot,
                                std::optional<QList<InformationSignal>> retiredSignals) const
 {
-    return {snapshot.signals, retiredSignals ? *std::move(retiredSignals) : m_retiredSignals,
+    return {snapshot.signals, retiredSignals ? *std::move(retiredSignals) : m_retiredList,
             snapshot.selectionDays.isEmpty() ? m_selectionDays : snapshot.selectionDays,
             snapshot.asOf};
 }

@@ -15,8 +15,8 @@
 class InformationContent
 {
 public:
-    /// The first of repeated ids stays, and a retired signal whose id is live is dropped: nothing
-    /// stored or downloaded may break the index.
+    /// The first of repeated ids stays, and a retired signal whose id is live is left out as long
+    /// as it is: nothing stored or downloaded may break the index.
     InformationContent(QList<InformationSignal> signals, QList<InformationSignal> retiredSignals,
                        QList<SelectionDay> selectionDays, QString packAsOf);
 
@@ -40,6 +40,8 @@ public:
 
 private:
     QList<InformationSignal> m_signals;
+    /// Of which a later pack may bring back what this one leaves out.
+    QList<InformationSignal> m_retiredList;
     QList<InformationSignal> m_retiredSignals;
     QList<SelectionDay> m_selectionDays;
     QString m_packAsOf;

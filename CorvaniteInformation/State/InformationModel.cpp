@@ -338,7 +338,7 @@ bool InformationModel::transact(const WorkspaceJournal::Change& change,
                                 const std::function<void()>& announce)
 {
     assertMainThread();
-    m_journal.apply(change);
+    changeUndo([&] { m_journal.apply(change); });
     announceWorkspace();
     announce();
     const auto stored = m_journal.store();

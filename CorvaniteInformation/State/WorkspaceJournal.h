@@ -11,7 +11,8 @@
 #include <optional>
 
 /// The reader's workspace, its file, and the one step that can be taken back. A change is applied
-/// at once and stored after; what cannot be stored is taken back.
+/// at once and stored after; what cannot be stored is taken back. Where something else has stored a
+/// workspace meanwhile, the journal goes on from that one.
 class WorkspaceJournal
 {
 public:
@@ -27,7 +28,9 @@ public:
     /// Why the stored workspace was not loaded, in a sentence for the reader.
     const std::optional<QString>& loadFailure() const { return m_loadFailure; }
 
-    /// Changes the workspace. To be followed by `store`.
+    /// Changes the workspace, as it is stored by now. To be followed by `store`. One that came from
+    /// elsewhere empties the undo slot; where it does not read, nothing is changed and `store`
+    /// fails.
     void apply(const Change& change);
 
     /// Stores the last change. On failure the workspace is as before it; the error is the sentence
@@ -39,13 +42,20 @@ public:
     void keepUndo();
     void clearUndo() { m_undo.reset(); }
     /// The change that goes back; with `canUndo`.
-    Change undo() const;
+    Change undo();
 
 private:
+    /// Takes what something else has stored since the last reading or storing.
+    std::expected<void, InformationWorkspaceRepository::LoadError> catchUp();
+
     const InformationFileManager& m_fileManager;
     std::optional<InformationWorkspaceRepository> m_repository;
     std::optional<QString> m_loadFailure;
     InformationWorkspace m_workspace;
+    /// The file as last read or stored.
+    std::optional<QByteArray> m_document;
+    /// Why the last change was not applied.
+    std::optional<QString> m_refusal;
     /// From before the last change.
     InformationWorkspace m_previous;
     std::optional<InformationWorkspace> m_undo;

@@ -46,6 +46,12 @@ private Q_SLOTS:
         QCOMPARE(error.localizedDescription(), description);
     }
 
+    void saysThatAnotherProgramIsAtWork()
+    {
+        const FileError error{FileError::Reason::InUse};
+        QCOMPARE(error.localizedDescription(), u"数据目录正由另一个运行中的程序使用。"_qs);
+    }
+
     void tellsReadingFromWriting()
     {
         const FileError error{FileError::Reason::ReadPermissionDenied};

@@ -32,6 +32,18 @@ private Q_SLOTS:
         QTEST(window.windowStates(), "after");
         QTRY_VERIFY(window.isActive());
     }
+
+    void comesBeforeTheOthers()
+    {
+        QWindow screen;
+        QWindow window(&screen);
+        QWindow other(&screen);
+        QCOMPARE(screen.children().last(), &other);
+
+        WindowActivation::bringUp(window);
+
+        QCOMPARE(screen.children().last(), &window);
+    }
 };
 
 TEST_SUBJECT(WindowActivationTest)

@@ -3,14 +3,20 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocalSocket>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
-#include <sys/stat.h>
+#include <functional>
+
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+using namespace std::chrono_literals;
 
 class InstanceChannelTest : public QObject
 {
@@ -20,95 +26,136 @@ private Q_SLOTS:
     void init()
     {
         m_home.emplace();
-        m_path = m_home->filePath(u"socket"_qs);
+        m_name = InstanceChannel::nameFor(m_home->path());
     }
 
-    void theSocketStandsForTheDataDirectory()
+    void theNameStandsForTheDataDirectory()
     {
-        QProcessEnvironment environment;
-        environment.insert(u"XDG_RUNTIME_DIR"_qs, u"/run/user/7"_qs);
         const auto first = makeDirectory(u"first"_qs);
         const auto second = makeDirectory(u"second"_qs);
         const auto link = m_home->filePath(u"link"_qs);
         QVERIFY(QFile::link(first, link));
 
-        const auto path = InstanceChannel::socketPath(first, environment);
-        QVERIFY(path.startsWith(u"/run/user/7/corvanite-information-"));
-        QCOMPARE(InstanceChannel::socketPath(first, environment), path);
-        QCOMPARE(InstanceChannel::socketPath(link, environment), path);
-        QVERIFY(InstanceChannel::socketPath(second, environment) != path);
+        const auto name = InstanceChannel::nameFor(first);
+        QCOMPARE(InstanceChannel::nameFor(link), name);
+        QVERIFY(InstanceChannel::nameFor(second) != name);
     }
 
-    void withoutARuntimeDirectoryTheSocketLiesInTheDataDirectory_data()
+    // With a socket in the file system, a data directory as deep as this could not be reached.
+    void theNameIsShortHoweverLongTheDirectorysIs()
     {
-        QTest::addColumn<QString>("runtimeDirectory");
-
-        QTest::newRow("none") << QString();
-        QTest::newRow("a relative one") << u"run"_qs;
-    }
-
-    void withoutARuntimeDirectoryTheSocketLiesInTheDataDirectory()
-    {
-        QFETCH(const QString, runtimeDirectory);
-        QProcessEnvironment environment;
-        environment.insert(u"XDG_RUNTIME_DIR"_qs, runtimeDirectory);
-        const auto directory = makeDirectory(u"data"_qs);
-        QVERIFY(InstanceChannel::socketPath(directory, environment)
-                    .startsWith(directory + u"/corvanite-information-"_qs));
+        const auto deep = m_home->path() + u"/folder"_qs.repeated(500);
+        QVERIFY(InstanceChannel::nameFor(deep).size() < 100);
+        QVERIFY(InstanceChannel::nameFor(deep) != InstanceChannel::nameFor(deep + u"/x"_qs));
     }
 
     void aRequestIsTaken()
     {
         InstanceChannel channel;
         const QSignalSpy requests(&channel, &InstanceChannel::activationRequested);
-        QVERIFY(channel.listen(m_path));
+        QVERIFY(channel.listen(m_name));
         QVERIFY(requestFromAnotherThread());
         QCOMPARE(requests.size(), 1);
         QVERIFY(requestFromAnotherThread());
         QCOMPARE(requests.size(), 2);
     }
 
-    void theSocketIsForThisUserOnly()
+    void onlyOneListens()
     {
-        InstanceChannel channel;
-        QVERIFY(channel.listen(m_path));
-        struct stat status = {};
-        QCOMPARE(::stat(QFile::encodeName(m_path).constData(), &status), 0);
-        QCOMPARE(status.st_mode & 0777, mode_t{0700});
+        std::optional<InstanceChannel> first(std::in_place);
+        InstanceChannel second;
+        QVERIFY(first->listen(m_name));
+        QVERIFY(!second.listen(m_name));
+        first.reset();
+        QVERIFY(second.listen(m_name));
     }
 
-    void theSocketOfAKilledProgramIsReplaced()
+    void aKilledProgramLeavesTheNameFree()
     {
         const auto process = ::fork();
         if (process == 0) {
             InstanceChannel channel;
-            ::_exit(channel.listen(m_path) ? 0 : 1);
+            ::_exit(channel.listen(m_name) ? 0 : 1);
         }
         int status = 1;
         QCOMPARE(::waitpid(process, &status, 0), process);
         QCOMPARE(status, 0);
-        QVERIFY(QFile::exists(m_path));
 
         InstanceChannel channel;
-        QVERIFY(channel.listen(m_path));
+        QVERIFY(channel.listen(m_name));
         QVERIFY(requestFromAnotherThread());
     }
 
-    void aRequestWaitsForAProgramThatIsStillStarting()
+    void anotherUserIsNotHeard()
     {
+        if (::geteuid() != 0) {
+            QSKIP("only root may act as another user");
+        }
         InstanceChannel channel;
-        bool taken = false;
-        std::unique_ptr<QThread> second(QThread::create(
-            [this, &taken] { taken = InstanceChannel::requestActivation(m_path); }));
-        second->start();
-        QVERIFY(channel.listen(m_path));
-        QTRY_VERIFY_WITH_TIMEOUT(second->isFinished(), 20000);
-        QVERIFY(taken);
+        const QSignalSpy requests(&channel, &InstanceChannel::activationRequested);
+        QVERIFY(channel.listen(m_name));
+        bool isTurnedAway = false;
+        const auto other = asAnotherUser([this, &isTurnedAway] {
+            QLocalSocket socket;
+            socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+            socket.connectToServer(m_name);
+            isTurnedAway = socket.waitForConnected() &&
+                           (socket.state() == QLocalSocket::UnconnectedState ||
+                            socket.waitForDisconnected(20000)) &&
+                           socket.bytesAvailable() == 0;
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(other->isFinished(), 20000);
+        QVERIFY(isTurnedAway);
+        QCOMPARE(requests.size(), 0);
     }
 
-    void aRequestThatNobodyTakesIsGivenUp()
+    void anotherUserIsNotTakenForTheProgram()
     {
-        QVERIFY(!InstanceChannel::requestActivation(m_path));
+        if (::geteuid() != 0) {
+            QSKIP("only root may act as another user");
+        }
+        QSemaphore isListening;
+        const auto other = asAnotherUser([this, &isListening] {
+            QLocalServer server;
+            server.setSocketOptions(QLocalServer::AbstractNamespaceOption);
+            server.listen(m_name);
+            isListening.release();
+            if (server.waitForNewConnection(20000)) {
+                auto* const request = server.nextPendingConnection();
+                request->write("\n");
+                request->waitForBytesWritten(20000);
+            }
+        });
+        isListening.acquire();
+
+        QVERIFY(!InstanceChannel::requestActivation(m_name));
+        QVERIFY(other->wait(20000));
+    }
+
+    void aRequestThatIsNotAnsweredIsGivenUp()
+    {
+        QLocalServer silent;
+        silent.setSocketOptions(QLocalServer::AbstractNamespaceOption);
+        QVERIFY(silent.listen(m_name));
+
+        QVERIFY(!InstanceChannel::requestActivation(m_name, 1ms));
+    }
+
+    // As the one of a program that ends at this moment.
+    void aRequestThatIsCutOffIsNotTaken()
+    {
+        QLocalServer ending;
+        ending.setSocketOptions(QLocalServer::AbstractNamespaceOption);
+        QVERIFY(ending.listen(m_name));
+        connect(&ending, &QLocalServer::newConnection, this,
+                [&ending] { delete ending.nextPendingConnection(); });
+
+        QVERIFY(!requestFromAnotherThread());
+    }
+
+    void withNobodyThereARequestIsNotTaken()
+    {
+        QVERIFY(!InstanceChannel::requestActivation(m_name));
     }
 
 private:
@@ -118,17 +165,31 @@ private:
         return m_home->filePath(name);
     }
 
+    // Of the thread alone, which the library's own call would not do.
+    static std::unique_ptr<QThread> asAnotherUser(const std::function<void()>& act)
+    {
+        std::unique_ptr<QThread> thread(QThread::create([act] {
+            constexpr uid_t unchanged = -1;
+            constexpr uid_t nobody = 65534;
+            if (::syscall(SYS_setresuid, unchanged, nobody, unchanged) == 0) {
+                act();
+            }
+        }));
+        thread->start();
+        return thread;
+    }
+
     bool requestFromAnotherThread()
     {
         bool taken = false;
         std::unique_ptr<QThread> second(QThread::create(
-            [this, &taken] { taken = InstanceChannel::requestActivation(m_path); }));
+            [this, &taken] { taken = InstanceChannel::requestActivation(m_name); }));
         second->start();
         return QTest::qWaitFor([&second] { return second->isFinished(); }, 20000) && taken;
     }
 
     std::optional<QTemporaryDir> m_home;
-    QString m_path;
+    QString m_name;
 };
 
 TEST_SUBJECT(InstanceChannelTest)

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -16,7 +17,7 @@
 
 namespace {
 
-using Failure = InstanceLock::Failure;
+using Reason = FileError::Reason;
 
 /// A process that holds the lock of a directory until it is killed.
 class HoldingProcess
@@ -60,10 +61,10 @@ private:
     bool m_holds = false;
 };
 
-std::optional<Failure> failureOf(const QString& directory)
+std::optional<Reason> failureOf(const QString& directory)
 {
     const auto lock = InstanceLock::take(directory, LocalFileManager(std::nullopt));
-    return lock ? std::nullopt : std::optional(lock.error());
+    return lock ? std::nullopt : std::optional(lock.error().reason);
 }
 
 mode_t permissions(const QString& path)
@@ -98,7 +99,7 @@ private Q_SLOTS:
         {
             const auto lock = InstanceLock::take(m_directory, LocalFileManager(std::nullopt));
             QVERIFY(lock);
-            QCOMPARE(failureOf(m_directory), Failure::Held);
+            QCOMPARE(failureOf(m_directory), Reason::InUse);
         }
         QCOMPARE(failureOf(m_directory), std::nullopt);
     }
@@ -109,7 +110,7 @@ private Q_SLOTS:
         QVERIFY(first);
         {
             const auto second = std::move(*first);
-            QCOMPARE(failureOf(m_directory), Failure::Held);
+            QCOMPARE(failureOf(m_directory), Reason::InUse);
         }
         QCOMPARE(failureOf(m_directory), std::nullopt);
     }
@@ -126,13 +127,59 @@ private Q_SLOTS:
         {
             const HoldingProcess process(m_directory);
             QVERIFY(process.holds());
-            QCOMPARE(failureOf(m_directory), Failure::Held);
+            QCOMPARE(failureOf(m_directory), Reason::InUse);
         }
         QVERIFY(QFileInfo::exists(m_directory + u"/.lock"_qs));
         QCOMPARE(failureOf(m_directory), std::nullopt);
     }
 
-    void unavailableWhereNothingCanBeMade_data()
+    void aProgramThatIsStartedMeanwhileDoesNotInheritIt()
+    {
+        auto lock =
+            std::make_optional(InstanceLock::take(m_directory, LocalFileManager(std::nullopt)));
+        QVERIFY(*lock);
+        QProcess started;
+        started.start(u"cat"_qs);
+        QVERIFY(started.waitForStarted());
+
+        lock.reset();
+
+        QCOMPARE(failureOf(m_directory), std::nullopt);
+        QCOMPARE(started.state(), QProcess::Running);
+        started.closeWriteChannel();
+        QVERIFY(started.waitForFinished());
+    }
+
+    void aLockFileThatIsGoneIsTold_data()
+    {
+        QTest::addColumn<QString>("removed");
+        QTest::addColumn<bool>("isMadeAnew");
+
+        QTest::newRow("the file") << u"Corvanite/Information/.lock"_qs << false;
+        QTest::newRow("the file, another in its place")
+            << u"Corvanite/Information/.lock"_qs << true;
+        QTest::newRow("the folder") << u"Corvanite/Information"_qs << false;
+        QTest::newRow("the folder, another in its place") << u"Corvanite/Information"_qs << true;
+        QTest::newRow("the folder above") << u"Corvanite"_qs << false;
+    }
+
+    void aLockFileThatIsGoneIsTold()
+    {
+        QFETCH(const QString, removed);
+        QFETCH(const bool, isMadeAnew);
+        const auto lock = InstanceLock::take(m_directory, LocalFileManager(std::nullopt));
+        QVERIFY(lock);
+        QCOMPARE(lock->isInPlace(), true);
+        const auto path = m_home->filePath(removed);
+        QVERIFY(QFile::remove(path) || QDir(path).removeRecursively());
+        if (isMadeAnew) {
+            QCOMPARE(failureOf(m_directory), std::nullopt);
+        }
+
+        QCOMPARE(lock->isInPlace(), false);
+    }
+
+    void whereNothingCanBeMadeThereIsNone_data()
     {
         QTest::addColumn<QString>("obstacle");
 
@@ -140,17 +187,17 @@ private Q_SLOTS:
         QTest::newRow("a file above the directory") << u"Corvanite"_qs;
     }
 
-    void unavailableWhereNothingCanBeMade()
+    void whereNothingCanBeMadeThereIsNone()
     {
         QFETCH(const QString, obstacle);
         const auto path = m_home->filePath(obstacle);
         QVERIFY(QDir().mkpath(QFileInfo(path).path()));
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(failureOf(m_directory), Failure::Unavailable);
+        QCOMPARE(failureOf(m_directory), Reason::FolderMissing);
     }
 
-    void unavailableWhereTheLockIsNoFile_data()
+    void whereTheLockIsNoFileThereIsNone_data()
     {
         QTest::addColumn<bool>("link");
 
@@ -158,14 +205,14 @@ private Q_SLOTS:
         QTest::newRow("a link to elsewhere") << true;
     }
 
-    void unavailableWhereTheLockIsNoFile()
+    void whereTheLockIsNoFileThereIsNone()
     {
         QFETCH(const bool, link);
         const auto path = m_directory + u"/.lock"_qs;
         QVERIFY(QDir().mkpath(m_directory));
         const auto elsewhere = m_home->filePath(u"elsewhere"_qs);
         QVERIFY(link ? QFile::link(elsewhere, path) : QDir().mkpath(path));
-        QCOMPARE(failureOf(m_directory), Failure::Unavailable);
+        QCOMPARE(failureOf(m_directory), Reason::NotARegularFile);
         QVERIFY(!QFileInfo::exists(elsewhere));
     }
 

@@ -59,6 +59,22 @@ private Q_SLOTS:
         m_model->dismissUpdate();
         QVERIFY(!m_page->hasUpdate());
     }
+
+    // There was a button, and it did nothing.
+    void offersNoButtonForAnAddressThatIsNotOpened()
+    {
+        m_sample.site->answers.insert(
+            SiteClient::appVersionPath,
+            SiteReply{
+                SiteDocuments::appVersion(
+                    u"1.3.0"_qs, {{u"downloadUrl"_qs, u"https://reader@corvanite.example/a"_qs}}),
+                200});
+
+        m_model->probeAppUpdateOnce();
+
+        QCOMPARE(m_page->updateText(), u"新版本 1.3.0 已发布"_qs);
+        QCOMPARE(m_page->updateAddress(), QString());
+    }
 };
 
 TEST_SUBJECT(FramePageTest)

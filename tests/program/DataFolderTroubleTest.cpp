@@ -6,9 +6,12 @@
 #include "StoredWorkspace.h"
 #include "Subject.h"
 
+#include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -23,6 +26,7 @@ const QString noOrdinaryFile = u"文件被占用或不是普通文件。"_qs;
 const QString noFolder = u"数据目录不存在，也无法创建。"_qs;
 
 const QString aside = u"aside"_qs;
+const QString lock = DataFolder::storage + u"/.lock"_qs;
 
 struct Trouble
 {
@@ -61,10 +65,14 @@ const QMap<QString, Trouble>& troubles()
           notSaved + mayNotWrite}},
         {u"the folder is closed"_qs,
          {[](auto& folder) { setMode(folder, DataFolder::storage, 0); },
-          [](auto& folder) { setMode(folder, DataFolder::storage, 0700); },
+          [](auto& folder) { setMode(folder, DataFolder::storage, 0700); }, notRead + mayNotRead,
+          noStorage, notSaved + mayNotRead}},
+        {u"the lock file may not be opened"_qs,
+         {[](auto& folder) { setMode(folder, lock, 0); },
+          [](auto& folder) { setMode(folder, lock, 0600); },
           {},
-          noStorage,
-          notSaved + mayNotWrite}},
+          notSaved + mayNotWrite,
+          {}}},
         {u"a file lies in the folder's place"_qs,
          {[](auto& folder) {
               move(folder, DataFolder::storage, aside);
@@ -75,14 +83,12 @@ const QMap<QString, Trouble>& troubles()
               move(folder, aside, DataFolder::storage);
           },
           {},
-          noStorage,
+          notSaved + noFolder,
           notSaved + noFolder}},
         {u"the file may not be read"_qs,
          {[](auto& folder) { setMode(folder, DataFolder::workspace, 0); },
-          [](auto& folder) { setMode(folder, DataFolder::workspace, 0600); },
-          notRead + mayNotRead,
-          noStorage,
-          {}}},
+          [](auto& folder) { setMode(folder, DataFolder::workspace, 0600); }, notRead + mayNotRead,
+          noStorage, notSaved + mayNotRead}},
         {u"a folder lies in the file's place"_qs,
          {[](auto& folder) {
               move(folder, DataFolder::workspace, aside);
@@ -124,7 +130,7 @@ void fill(const DataFolder& folder, const QString& trouble)
     } else {
         folder.store(DataFolder::workspace, storedWorkspace());
     }
-    folder.store(DataFolder::storage + u"/.lock"_qs, {});
+    folder.store(lock, {});
 }
 
 } // namespace
@@ -161,7 +167,16 @@ private Q_SLOTS:
             model.addSource(u"再试一次"_qs);
             const bool isStorageUsable = trouble.afterTheStart != noStorage;
             QCOMPARE(model.errorText(), isStorageUsable ? QString() : noStorage);
-            QCOMPARE(folder.content(DataFolder::workspace) != before, isStorageUsable);
+            if (isStorageUsable) {
+                auto workspace =
+                    InformationWorkspaceCoding::decode(folder.content(DataFolder::workspace));
+                QVERIFY(workspace);
+                QCOMPARE(*workspace, model.workspace());
+                workspace->customSources.removeLast();
+                QCOMPARE(InformationWorkspaceCoding::encode(*workspace), before);
+            } else {
+                QCOMPARE(folder.content(DataFolder::workspace), before);
+            }
         }
         verifyNextStart(folder);
     }
@@ -216,6 +231,51 @@ private Q_SLOTS:
             QCOMPARE(*workspace, shown);
         }
         verifyNextStart(folder);
+    }
+
+    void aSecondStartAsksTheFirstAlsoWhereTheFolderWasDeleted()
+    {
+        const DataFolder folder;
+        fill(folder, {});
+        {
+            ProgramStart first(folder.environment());
+            const QSignalSpy requests(&first.parts.instance(),
+                                      &ProgramInstance::activationRequested);
+            removeFolder(folder, u"support"_qs);
+
+            std::optional<Standing> standing;
+            bool hasModel = true;
+            std::unique_ptr<QThread> second(QThread::create([&] {
+                ProgramStart program(folder.environment());
+                standing = program.parts.instance().standing();
+                hasModel = program.parts.model() != nullptr;
+            }));
+            second->start();
+            QTRY_VERIFY_WITH_TIMEOUT(second->isFinished(), 20000);
+
+            QCOMPARE(standing, Standing::Later);
+            QVERIFY(!hasModel);
+            QCOMPARE(requests.size(), 1);
+            QVERIFY(first.model().addSource(u"再收下一项"_qs));
+        }
+        verifyNextStart(folder);
+    }
+
+    void whatIsStoredIsShownWhereItCannotBeHeld()
+    {
+        const DataFolder folder;
+        fill(folder, {});
+        folder.store(DataFolder::pack,
+                     SiteDocuments::pack(u"2090-01-01T00:00:00Z"_qs, {u"new"_qs}));
+        setMode(folder, lock, 0);
+
+        ProgramStart program(folder.environment());
+
+        QCOMPARE(program.parts.instance().standing(), Standing::WithoutLock);
+        QCOMPARE(program.model().errorText(), QString());
+        QCOMPARE(InformationWorkspaceCoding::encode(program.model().workspace()),
+                 folder.content(DataFolder::workspace));
+        QCOMPARE(program.model().signals().size(), 1);
     }
 
     void aDanglingLinkStaysAndItsTargetIsMade()

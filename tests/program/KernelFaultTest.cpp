@@ -55,6 +55,28 @@ private Q_SLOTS:
         QVERIFY(process.ends());
     }
 
+    // Its workspace was not read, and what was kept was gone without a word.
+    void aReadOnlyDiskIsShownAndASaveSaysSo()
+    {
+        const DataFolder folder;
+        folder.store(DataFolder::workspace, storedWorkspace());
+        const QString refusal = refusalOf(onReadOnlyDisk(folder) + QStringList{u"true"_qs});
+        if (!refusal.isEmpty()) {
+            QSKIP(qUtf8Printable(u"no disk may be mounted read-only here: "_qs + refusal));
+        }
+        SavingProcess process(folder, m_site.path(), {}, onReadOnlyDisk(folder));
+        QVERIFY(process.isAlive());
+        QCOMPARE(process.belief(u"error"_qs), QString());
+        QCOMPARE(process.belief(u"workspace"_qs).toUtf8(), folder.content(DataFolder::workspace));
+
+        process.act(u"add"_qs);
+
+        QVERIFY(process.isAlive());
+        QCOMPARE(process.belief(u"error"_qs), u"没有保存这次操作：磁盘只读，无法写入。"_qs);
+        QCOMPARE(process.belief(u"workspace"_qs).toUtf8(), folder.content(DataFolder::workspace));
+        QVERIFY(process.ends());
+    }
+
     void aCallThatTheKernelFailsLosesNothing_data()
     {
         QTest::addColumn<QString>("calls");
@@ -134,6 +156,19 @@ private:
                 u"mount -t tmpfs -o size=256k tmpfs \"$1\" && cp -a \"$0/.\" \"$1\" && shift && "
                 "exec \"$@\""_qs,
                 contents.path(),
+                folder.path()};
+    }
+
+    // A command that runs what is appended to it where the folder is on a read-only disk.
+    static QStringList onReadOnlyDisk(const DataFolder& folder)
+    {
+        return {u"unshare"_qs,
+                u"--user"_qs,
+                u"--map-root-user"_qs,
+                u"--mount"_qs,
+                u"sh"_qs,
+                u"-c"_qs,
+                u"mount --bind \"$0\" \"$0\" && mount -o remount,bind,ro \"$0\" && exec \"$@\""_qs,
                 folder.path()};
     }
 

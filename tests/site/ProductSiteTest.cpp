@@ -14,6 +14,8 @@ private Q_SLOTS:
     void joinsWithOneSlash();
     void namesItsHost_data();
     void namesItsHost();
+    void ownsWhatLiesOnItsHost_data();
+    void ownsWhatLiesOnItsHost();
 };
 
 void ProductSiteTest::takesASecureOrLoopbackOrigin_data()
@@ -33,6 +35,8 @@ void ProductSiteTest::takesASecureOrLoopbackOrigin_data()
     row(u"http://[::1]:8080"_qs, true);
     row(u"http://corvanite.example"_qs, false);
     row(u"http://localhost.corvanite.example"_qs, false);
+    row(u"http://evil-localhost"_qs, false);
+    row(u"http://evil.localhost"_qs, false);
     row(u"http://128.0.0.1"_qs, false);
     row(u"ftp://corvanite.example"_qs, false);
     row(u"corvanite.example"_qs, false);
@@ -99,6 +103,49 @@ void ProductSiteTest::namesItsHost()
     QFETCH(QString, origin);
 
     QTEST(ProductSite::fromOrigin(origin).value().host(), "host");
+}
+
+void ProductSiteTest::ownsWhatLiesOnItsHost_data()
+{
+    QTest::addColumn<QString>("origin");
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<bool>("isOwn");
+
+    const auto row = [](const QString& origin, const QString& address, bool isOwn) {
+        QTest::addRow("%s, %s", qUtf8Printable(origin), qUtf8Printable(address))
+            << origin << address << isOwn;
+    };
+    const QString site = u"https://corvanite.example/base"_qs;
+    row(site, u"https://corvanite.example/base/pack.json"_qs, true);
+    row(site, u"https://corvanite.example/elsewhere"_qs, true);
+    row(site, u"https://CORVANITE.example/"_qs, true);
+    row(site, u"https://corvanite.example:8443/"_qs, true);
+    row(site, u"https://www.corvanite.example/"_qs, true);
+    row(u"https://www.corvanite.example"_qs, u"https://corvanite.example/"_qs, true);
+    row(u"http://127.0.0.1:8080"_qs, u"http://127.0.0.1:8081/"_qs, true);
+    row(u"https://信息.example"_qs, u"https://xn--vuq861b.example/"_qs, true);
+    row(site, u"http://corvanite.example/"_qs, false);
+    row(site, u"ftp://corvanite.example/"_qs, false);
+    row(site, u"https://example/"_qs, false);
+    row(site, u"https://a.example/"_qs, false);
+    row(site, u"https://cdn.corvanite.example/"_qs, false);
+    row(site, u"https://evil-corvanite.example/"_qs, false);
+    row(site, u"https://evil-www.corvanite.example/"_qs, false);
+    row(site, u"https://corvanite.example.a.example/"_qs, false);
+    row(site, u"https://corvanite.example@a.example/"_qs, false);
+    row(site, u"https://reader@corvanite.example/"_qs, false);
+    row(site, u"https:///pack.json"_qs, false);
+    row(site, u"/pack.json"_qs, false);
+    row(u"http://127.0.0.1"_qs, u"https://127.0.0.1/"_qs, false);
+    row(u"http://127.0.0.1"_qs, u"http://localhost/"_qs, false);
+}
+
+void ProductSiteTest::ownsWhatLiesOnItsHost()
+{
+    QFETCH(QString, origin);
+    QFETCH(QString, address);
+
+    QTEST(ProductSite::fromOrigin(origin).value().owns(QUrl(address)), "isOwn");
 }
 
 TEST_SUBJECT(ProductSiteTest)

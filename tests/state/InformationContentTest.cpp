@@ -62,6 +62,26 @@ private Q_SLOTS:
         const QList<InformationSignal> retired{sampleSignal(u"x"_qs)};
         QCOMPARE(content.replacedBy(snapshot, retired).retiredSignals(), retired);
     }
+
+    // It was lost with the card that took its place, and the reader's kept card with it.
+    void aRetiredSignalComesBackOnceItsIdIsNoLongerLive()
+    {
+        const InformationContent content({sampleSignal(u"a"_qs)}, {sampleSignal(u"r"_qs)}, {}, {});
+        const InformationPackSync::Snapshot withItsId{
+            .schemaVersion = {},
+            .asOf = u"2026-09-02T00:00:00Z"_qs,
+            .checkedEntryCount = 1,
+            .signals = {sampleSignal(u"r"_qs)},
+            .selectionDays = {},
+        };
+        auto withoutIt = withItsId;
+        withoutIt.signals = {sampleSignal(u"b"_qs)};
+
+        const auto later =
+            content.replacedBy(withItsId, std::nullopt).replacedBy(withoutIt, std::nullopt);
+
+        QCOMPARE(later.retiredSignals(), QList{sampleSignal(u"r"_qs)});
+    }
 };
 
 TEST_SUBJECT(InformationContentTest)

@@ -28,6 +28,13 @@ class WorkspaceJournalTest : public QObject
         return WorkspaceJournal(InformationWorkspaceRepository{filePath}, m_files);
     }
 
+    void storeFromElsewhere() const
+    {
+        InformationWorkspace workspace;
+        workspace.following.append(u"elsewhere"_qs);
+        QVERIFY(InformationWorkspaceRepository{filePath}.save(workspace, m_files));
+    }
+
 private Q_SLOTS:
     void init() { m_files = MemoryFileManager(); }
 
@@ -94,6 +101,97 @@ private Q_SLOTS:
         QVERIFY(journal.canUndo());
         journal.clearUndo();
         QVERIFY(!journal.canUndo());
+    }
+
+    // It was overwritten with what this run had in memory.
+    void goesOnFromWhatSomethingElseHasStored()
+    {
+        auto journal = this->journal();
+        journal.apply(follow);
+        QVERIFY(journal.store());
+        journal.keepUndo();
+        storeFromElsewhere();
+
+        journal.apply(follow);
+        QVERIFY(!journal.canUndo());
+        QVERIFY(journal.store());
+
+        QCOMPARE(journal.workspace().following, (QList{u"elsewhere"_qs, u"a"_qs}));
+        QCOMPARE(this->journal().workspace(), journal.workspace());
+    }
+
+    void refusesAnActionOverAFileThatNoLongerReads_data()
+    {
+        QTest::addColumn<bool>("isDamaged");
+
+        QTest::newRow("damaged") << true;
+        QTest::newRow("may not be read") << false;
+    }
+
+    void refusesAnActionOverAFileThatNoLongerReads()
+    {
+        QFETCH(const bool, isDamaged);
+        auto journal = this->journal();
+        journal.apply(follow);
+        QVERIFY(journal.store());
+        const auto stored = journal.workspace();
+        if (isDamaged) {
+            m_files.files.insert(filePath, "{");
+        } else {
+            m_files.readFailure = FileError{FileError::Reason::ReadPermissionDenied};
+        }
+        const auto files = m_files.files;
+
+        journal.apply(follow);
+        const auto again = journal.store();
+
+        QVERIFY(!again);
+        QVERIFY(again.error().startsWith(u"没有保存这次操作："));
+        QCOMPARE(journal.workspace(), stored);
+        QCOMPARE(m_files.files, files);
+    }
+
+    void goesOnOnceTheFileReadsAgain()
+    {
+        auto journal = this->journal();
+        m_files.readFailure = FileError{FileError::Reason::InputOutput};
+        journal.apply(follow);
+        QVERIFY(!journal.store());
+        m_files.readFailure.reset();
+
+        journal.apply(follow);
+        QVERIFY(journal.store());
+
+        QCOMPARE(this->journal().workspace(), journal.workspace());
+    }
+
+    void doesNotUndoOverWhatSomethingElseHasStored()
+    {
+        auto journal = this->journal();
+        journal.apply(follow);
+        QVERIFY(journal.store());
+        journal.keepUndo();
+        storeFromElsewhere();
+
+        journal.apply(journal.undo());
+
+        QCOMPARE(journal.store().error(),
+                 u"没有撤销：保存的信息在别处有了改动，现在显示的是改动后的。"_qs);
+        QCOMPARE(journal.workspace().following, QList{u"elsewhere"_qs});
+        QCOMPARE(this->journal().workspace(), journal.workspace());
+    }
+
+    void storesEverythingAgainWhereTheFileIsGone()
+    {
+        auto journal = this->journal();
+        journal.apply(follow);
+        QVERIFY(journal.store());
+        m_files.files.clear();
+
+        journal.apply([](InformationWorkspace& workspace) { workspace.following.append(u"b"_qs); });
+        QVERIFY(journal.store());
+
+        QCOMPARE(this->journal().workspace().following, (QList{u"a"_qs, u"b"_qs}));
     }
 };
 

@@ -67,6 +67,7 @@ Rectangle {
         QuietButton {
             anchors.verticalCenter: parent.verticalCenter
             text: "获取更新"
+            visible: banner.page.updateAddress !== ""
             help: banner.page.updateHelp
             restTint: InformationTheme.accent
             iconPath: IconPaths.openOutside
