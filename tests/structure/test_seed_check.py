@@ -42,6 +42,8 @@ class SeedCheckTest(unittest.TestCase):
     def test_tells_what_is_wrong(self):
         first = ["signals", 0]
         blocked = "https://x.com/a"
+        spotty = "https://github.com/a"
+        no_stand_in = "the original is not always reachable and no related source is in its place"
         for file, path, value, complaint in [
             ("pack", ["schemaVersion"], "other", "is no information pack"),
             ("pack", ["signals"], [], "is no information pack"),
@@ -55,15 +57,23 @@ class SeedCheckTest(unittest.TestCase):
             ("pack", [*first, "why"], {}, "a text is empty"),
             ("pack", [*first, "observedAt"], "yesterday", "observedAt is no time"),
             ("pack", [*first, "publishedAt"], "", "publishedAt is no time"),
+            ("pack", [*first, "publishedAt"], "2026-08-27T00:42:11.670Z",
+             "observed before it was published"),
             ("pack", [*first, "state"], "update", "an update that does not say what changed"),
             ("pack", [*first, "originalUrl"], "chatcut.io", "originalUrl cannot be opened"),
             ("pack", [*first, "relatedSources", 0, "url"], "file:///a",
              "a related source cannot be opened"),
             ("pack", first, self.signal(originalUrl=blocked, relatedSources=[{"url": blocked}]),
-             "the original is blocked and no related source is in its place"),
+             no_stand_in),
+            ("pack", first, self.signal(originalUrl=spotty, relatedSources=[{"url": spotty}]),
+             no_stand_in),
+            ("pack", first, self.signal(originalUrl=spotty, relatedSources=[{"url": blocked}]),
+             no_stand_in),
             ("pack", [*first, "timeline"], [], "the timeline is empty"),
             ("pack", [*first, "timeline", 0, "datetime"], "8 月",
              "a timeline event's datetime is no time"),
+            ("pack", ["signals", 1, "timeline", 1, "datetime"], "2026-08-11T00:00:00.001Z",
+             "the timeline does not go from the newest event to the oldest"),
             ("pack", [*first, "followTarget", "scope"], {}, "the follow target is incomplete"),
             ("pack", [*first, "followTarget", "url"], "", "the follow target cannot be opened"),
             ("pack", ["selectionHistory"], [], "is empty"),
@@ -73,6 +83,9 @@ class SeedCheckTest(unittest.TestCase):
             ("pack", ["selectionHistory", 0, "focusSignalIds"], [], "features nothing"),
             ("pack", ["selectionHistory", 0, "focusSignalIds", 0], "gone",
              "features no known signal: gone"),
+            # Observed on that day at UTC, on the next in Beijing.
+            ("pack", ["selectionHistory", 0, "focusSignalIds", 0], "mcp-roadmap-2026-08",
+             "features what was observed later: mcp-roadmap-2026-08"),
             ("pack", ["selectionHistory", 0, "totalShown"], 2,
              "shows fewer signals than it features"),
             ("registry", ["sources"], [], "is empty"),
@@ -80,6 +93,9 @@ class SeedCheckTest(unittest.TestCase):
             ("registry", ["sources", 0, "take"], "", "a text is empty"),
             ("registry", ["sources", 0, "kind"], "博客", "kind does not end with the language"),
             ("registry", ["sources", 0, "url"], "", "url cannot be opened"),
+            ("registry", ["sources", 0, "name"], "The Verge", "has the name of another row"),
+            ("registry", ["sources", 0, "url"], "https://www.theverge.com/",
+             "has the address of another row"),
         ]:
             with self.subTest(file=file, path=path, value=value):
                 result = self.check(file, path, value)
