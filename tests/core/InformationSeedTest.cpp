@@ -124,46 +124,56 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("kind");
         QTest::addColumn<QString>("take");
+        QTest::addColumn<QString>("url");
 
-        const auto row = [](int place, const char* id, const QString& name, const QString& kind,
-                            const QString& take) {
-            QTest::newRow(id) << place << name << kind << take;
+        int place = 0;
+        const auto row = [&](const char* id, const QString& name, const QString& kind,
+                             const QString& take, const QString& url) {
+            QTest::newRow(id) << place++ << name << kind << take << url;
         };
-        row(3, "product-hunt-feed", u"Product Hunt"_qs, u"产品发布榜 · 英文"_qs,
-            u"新产品首发与社区热度信号"_qs);
-        row(4, "lobsters-hotstories", u"Lobsters"_qs, u"技术社区热榜 · 英文"_qs,
-            u"计算机与开源社区的讨论型线索"_qs);
-        row(5, "tldr-tech-daily", u"TLDR Tech"_qs, u"技术日报 · 英文"_qs,
-            u"跨领域技术要点的每日交叉核对"_qs);
-        row(6, "aihot-featured", u"AIHOT"_qs, u"AI 聚合精选 · 中文"_qs,
-            u"168 路 AI 信源的发现线索，仅取标题与原文入口"_qs);
-        row(7, "alphasignal-daily", u"AlphaSignal"_qs, u"工程师 AI 日报 · 英文"_qs,
-            u"论文、仓库与模型发布的工程视角线索"_qs);
-        row(8, "reddit-local-llama", u"r/LocalLLaMA"_qs, u"Reddit 社区 · 英文"_qs,
-            u"本地模型社区的实测讨论与一手反馈"_qs);
-        row(9, "pragmatic-engineer", u"The Pragmatic Engineer"_qs, u"工程管理通讯 · 英文"_qs,
-            u"大型科技公司工程实践与团队管理一手复盘"_qs);
-        row(11, "the-rundown-ai", u"The Rundown AI"_qs, u"AI 行业日报 · 英文"_qs,
-            u"AI 行业动态与平台变化的每日跟踪"_qs);
-        row(12, "dev-to-articles", u"DEV Community"_qs, u"开发者社区 · 英文"_qs,
-            u"工作流与方法的前沿实践与教程"_qs);
-        row(13, "ars-technica", u"Ars Technica"_qs, u"科技媒体 · 英文"_qs,
-            u"深度科技报道与平台政策变化"_qs);
-        row(14, "the-verge", u"The Verge"_qs, u"消费科技媒体 · 英文"_qs,
-            u"消费科技与产品发布的一手报道"_qs);
-        row(15, "css-tricks", u"CSS-Tricks"_qs, u"前端技术 · 英文"_qs,
-            u"前端工程方法与 CSS 实践"_qs);
+        row("english-llm-weblog", u"英文个人技术博客"_qs, u"个人技术博客 · 英文"_qs,
+            u"LLM 应用工程的一手实践与工具链变化"_qs, u"https://ooh.directory/"_qs);
+        row("chinese-curated-blog", u"中文个人精选博客"_qs, u"个人精选博客 · 中文"_qs,
+            u"海外 AI 动态的中文转述与评论线索"_qs, u"https://www.travellings.cn/"_qs);
+        row("product-hunt-feed", u"Product Hunt"_qs, u"产品发布榜 · 英文"_qs,
+            u"新产品首发与社区热度信号"_qs, u"https://www.producthunt.com/"_qs);
+        row("lobsters-hotstories", u"Lobsters"_qs, u"技术社区热榜 · 英文"_qs,
+            u"计算机与开源社区的讨论型线索"_qs, u"https://lobste.rs/"_qs);
+        row("tldr-tech-daily", u"TLDR Tech"_qs, u"技术日报 · 英文"_qs,
+            u"跨领域技术要点的每日交叉核对"_qs, u"https://tldr.tech/"_qs);
+        row("aihot-featured", u"AIHOT"_qs, u"AI 聚合精选 · 中文"_qs,
+            u"168 路 AI 信源的发现线索，仅取标题与原文入口"_qs, u"https://aihot.virxact.com/"_qs);
+        row("alphasignal-daily", u"AlphaSignal"_qs, u"工程师 AI 日报 · 英文"_qs,
+            u"论文、仓库与模型发布的工程视角线索"_qs, u"https://alphasignal.ai/"_qs);
+        row("reddit-local-llama", u"r/LocalLLaMA"_qs, u"Reddit 社区 · 英文"_qs,
+            u"本地模型社区的实测讨论与一手反馈"_qs, u"https://www.reddit.com/r/LocalLLaMA/"_qs);
+        row("pragmatic-engineer", u"The Pragmatic Engineer"_qs, u"工程管理通讯 · 英文"_qs,
+            u"大型科技公司工程实践与团队管理一手复盘"_qs,
+            u"https://newsletter.pragmaticengineer.com/"_qs);
+        row("english-ai-business-newsletter", u"英文 AI 商业通讯"_qs, u"AI 商业日报 · 英文"_qs,
+            u"AI 商业化与创业机会的每日发现线索"_qs, u"https://www.superhuman.ai/"_qs);
+        row("the-rundown-ai", u"The Rundown AI"_qs, u"AI 行业日报 · 英文"_qs,
+            u"AI 行业动态与平台变化的每日跟踪"_qs, u"https://www.therundown.ai/"_qs);
+        row("dev-to-articles", u"DEV Community"_qs, u"开发者社区 · 英文"_qs,
+            u"工作流与方法的前沿实践与教程"_qs, u"https://dev.to/"_qs);
+        row("ars-technica", u"Ars Technica"_qs, u"科技媒体 · 英文"_qs,
+            u"深度科技报道与平台政策变化"_qs, u"https://arstechnica.com/"_qs);
+        row("the-verge", u"The Verge"_qs, u"消费科技媒体 · 英文"_qs,
+            u"消费科技与产品发布的一手报道"_qs, u"https://www.theverge.com/"_qs);
+        row("css-tricks", u"CSS-Tricks"_qs, u"前端技术 · 英文"_qs, u"前端工程方法与 CSS 实践"_qs,
+            u"https://css-tricks.com/"_qs);
     }
 
     void listsItsRegistryInOrder()
     {
         QFETCH(int, place);
         QCOMPARE(InformationSeed::registrySources().size(), 15);
-        const auto& entry = InformationSeed::registrySources().at(place - 1);
+        const auto& entry = InformationSeed::registrySources().at(place);
         QCOMPARE(entry.id, QString::fromLatin1(QTest::currentDataTag()));
         QTEST(entry.name, "name");
         QTEST(entry.kind, "kind");
         QTEST(entry.take, "take");
+        QTEST(entry.url, "url");
     }
 
     void listsAreShared()
