@@ -226,11 +226,17 @@ std::expected<void, FileError> AtomicFile::replace(const QString& path, const QB
     return {};
 }
 
-bool AtomicFile::leadsIntoMissingFolder(const QString& path)
+std::expected<bool, FileError> AtomicFile::leadsIntoMissingFolder(const QString& path)
 {
     const QByteArray encoded = QFile::encodeName(path);
     struct stat status = {};
-    if (::lstat(encoded.constData(), &status) != 0 || !S_ISLNK(status.st_mode)) {
+    if (::lstat(encoded.constData(), &status) != 0) {
+        if (errno == ENOENT || errno == ENOTDIR) {
+            return false;
+        }
+        return systemFailure();
+    }
+    if (!S_ISLNK(status.st_mode)) {
         return false;
     }
     const auto location = replacedLocation(encoded);

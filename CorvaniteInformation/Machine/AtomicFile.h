@@ -18,7 +18,7 @@ std::expected<void, FileError> replace(const QString& path, const QByteArray& by
 
 /// Whether the path is a symbolic link whose target, be it only made by `replace`, has no folder to
 /// lie in.
-bool leadsIntoMissingFolder(const QString& path);
+std::expected<bool, FileError> leadsIntoMissingFolder(const QString& path);
 
 /// Removes the temporary files that a killed `replace` of a file in the folder left, there or where
 /// a symbolic link in it leads. A `replace` that runs meanwhile may fail for it, and loses nothing.

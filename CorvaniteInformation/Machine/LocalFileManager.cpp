@@ -128,7 +128,11 @@ LocalFileManager::readFile(const QString& path) const
         if (errno != ENOENT && errno != ENOTDIR) {
             return readFailure();
         }
-        if (AtomicFile::leadsIntoMissingFolder(path)) {
+        const auto leadsAway = AtomicFile::leadsIntoMissingFolder(path);
+        if (!leadsAway) {
+            return std::unexpected(leadsAway.error());
+        }
+        if (*leadsAway) {
             return std::unexpected(FileError{FileError::Reason::FolderMissing});
         }
         return std::nullopt;

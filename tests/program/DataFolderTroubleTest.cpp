@@ -209,6 +209,9 @@ private Q_SLOTS:
             QCOMPARE(folder.content(DataFolder::workspace),
                      InformationWorkspaceCoding::encode(model.workspace()));
         }
+        if (trouble.whileRunning.isEmpty()) {
+            trouble.goAway(folder);
+        }
         verifyNextStart(folder);
     }
 
