@@ -25,8 +25,17 @@ Window {
     flags: Qt.Window | Qt.FramelessWindowHint
     color: InformationTheme.canvas
 
-    // After the first frame, which nothing may delay; the model sees to it that it happens once.
-    onFrameSwapped: workbench.probeAppUpdateOnce()
+    // After the first frame, which nothing may delay, and after no other.
+    Connections {
+        id: firstFrame
+
+        target: window
+
+        function onFrameSwapped() {
+            firstFrame.target = null;
+            window.workbench.probeAppUpdateOnce();
+        }
+    }
 
     readonly property bool threadOpen: workbench.hasOpenThread
     onThreadOpenChanged: if (threadOpen)
