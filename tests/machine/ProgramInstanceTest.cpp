@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QThread>
 
+#include <memory>
+
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -113,8 +115,9 @@ private Q_SLOTS:
 
     void takesThePlaceOfOneThatEndsWhileItAsks()
     {
-        std::optional ending(InstanceLock::take(m_directory, m_fileManager));
-        QVERIFY(*ending);
+        auto taken = InstanceLock::take(m_directory, m_fileManager);
+        QVERIFY(taken);
+        auto ending = std::make_unique<InstanceLock>(*std::move(taken));
         auto standing = Standing::Later;
         const auto next = startAnother(standing);
         QTest::qWait(1);
