@@ -38,7 +38,7 @@ OPENED = re.compile(r'\b(?:open|openat|creat|execve)\((?:[^"<]*(?:<([^>]*)>)?, )
 CONNECTED = re.compile(r"\b(?:connect|sendto|bind)\(\d+<([A-Z]+|socket)[^>]*>.*?(\{sa_family=[^}]*\})")
 
 # Process numbers, the screen's number, and the names of temporary files.
-CHANGING = re.compile(r"(/proc/|X11-unix/X|WORLD/run/\.|/\.corvanite-|@"corvanite-information-\d+-)\w+")
+CHANGING = re.compile(r"(/proc/|X11-unix/X|WORLD/run/\.|/\.corvanite-|@.corvanite-information-\d+-)\w+")
 # Asked for by the C library whenever it sees fit.
 PROCESSORS = "/sys/devices/system/cpu/online"
 
