@@ -129,7 +129,6 @@ class World:
             "XDG_DATA_HOME": str(self.data_home),
             "XDG_RUNTIME_DIR": str(runtime),
             "GSETTINGS_BACKEND": "memory",
-            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "QT_QPA_PLATFORM": "xcb",
         }
 

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QQuickItem>
+#include <QQuickWindow>
 #include <QTest>
 
 /// Meets a window's items as a screen reader does: by name and role, and only those that show.
@@ -89,6 +90,12 @@ inline void press(QQuickItem* item)
 {
     QAccessible::queryAccessibleInterface(item)->actionInterface()->doAction(
         QAccessibleActionInterface::pressAction());
+}
+
+/// The way of a pointer: a click on the item's middle, with what follows at once.
+inline void click(const QQuickItem* item)
+{
+    QTest::mouseClick(item->window(), Qt::LeftButton, {}, place(item).center().toPoint());
 }
 
 /// As when a screen reader starts: controls then say their roles anew.

@@ -29,6 +29,9 @@ FocusScope {
         clip: true
         focus: true
 
+        Accessible.role: Accessible.Pane
+        Accessible.name: "信源清单"
+
         Keys.forwardTo: [scroller]
 
         T.ScrollBar.vertical: OverlayScrollBar {}

@@ -28,6 +28,9 @@ FocusScope {
         head: head
         model: page.rows
 
+        Accessible.role: Accessible.Pane
+        Accessible.name: "周报精选"
+
         Column {
             id: head
 

@@ -16,8 +16,6 @@ Window {
     /// The desktop's own animations are off.
     required property bool reducedMotion
 
-    width: 1120
-    height: 780
     minimumWidth: 720
     minimumHeight: 560
     visible: true
@@ -39,10 +37,18 @@ Window {
 
     readonly property bool threadOpen: workbench.hasOpenThread
     onThreadOpenChanged: if (threadOpen)
-        threadSheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench })
+        threadSheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench, home: surfaces, blocked })
 
-    function openHandIn() {
-        handInSheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench });
+    function openHandIn(byKeyboard: bool) {
+        handInSheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench, home: surfaces, blocked, byKeyboard });
+    }
+
+    /// What a sheet blocks: all but what is for the window itself.
+    readonly property QtObject blocked: QtObject {
+        function contains(at: point): bool {
+            const isHandle = edges.contain(at) || buttons.contains(buttons.mapFromItem(null, at)) || header.isHandle(header.mapFromItem(null, at)) || banner.isHandle(banner.mapFromItem(null, at));
+            return !isHandle;
+        }
     }
 
     FramePage {
@@ -64,6 +70,7 @@ Window {
             anchors.right: parent.right
             window: window
             page: framePage
+            home: surfaces
         }
 
         WorkbenchHeader {
@@ -74,6 +81,7 @@ Window {
             anchors.right: parent.right
             window: window
             page: framePage
+            buttonsWidth: buttons.width
             surfaces: [
                 SurfaceEntry {
                     surface: InformationModel.Today
@@ -101,7 +109,7 @@ Window {
                     iconPath: IconPaths.sources
                 }
             ]
-            onHandInRequested: window.openHandIn()
+            onHandInRequested: byKeyboard => window.openHandIn(byKeyboard)
         }
 
         WorkbenchSurfaces {
@@ -113,6 +121,11 @@ Window {
             anchors.bottom: footer.top
             focus: true
             workbench: window.workbench
+
+            // A press on its blank ground leads the keyboard to it.
+            TapHandler {
+                onTapped: if (!surfaces.activeFocus) surfaces.forceActiveFocus(Qt.MouseFocusReason)
+            }
         }
 
         SiteFooter {
@@ -130,6 +143,17 @@ Window {
             anchors.bottomMargin: 16
             workbench: window.workbench
             maximumWidth: window.width - 48
+            home: surfaces
+        }
+
+        // In the header, but the last stops of the Tab key.
+        WindowButtons {
+            id: buttons
+
+            anchors.right: parent.right
+            anchors.rightMargin: header.sideMargin
+            y: header.y + header.rowCenter - height / 2
+            window: window
         }
     }
 
@@ -143,9 +167,13 @@ Window {
 
     ErrorAlert {
         workbench: window.workbench
+        home: surfaces
+        blocked: window.blocked
     }
 
     WindowEdges {
+        id: edges
+
         anchors.fill: parent
         window: window
     }
@@ -173,7 +201,7 @@ Window {
 
     Shortcut {
         sequence: "Ctrl+N"
-        onActivated: window.openHandIn()
+        onActivated: window.openHandIn(true)
     }
 
     Shortcut {
