@@ -29,7 +29,8 @@ public:
         m_engine.setInitialProperties({{u"workbench"_qs, QVariant::fromValue(&model)},
                                        {u"width"_qs, size.width()},
                                        {u"height"_qs, size.height()},
-                                       {u"reducedMotion"_qs, true}});
+                                       {u"reducedMotion"_qs, true},
+                                       {u"readAloud"_qs, true}});
         m_engine.load(QUrl(
             u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
         if (m_engine.rootObjects().isEmpty()) {
