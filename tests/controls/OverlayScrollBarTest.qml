@@ -66,9 +66,9 @@ TestCase {
     }
 
     function test_showsWhileThePointerIsOnIt() {
-        mouseMove(test, 20, 200);
-        tryVerify(() => !bar.shown);
         mouseMove(test, middle, 200);
-        tryVerify(() => bar.shown);
+        verify(bar.shown);
+        mouseMove(test, 20, 200);
+        verify(!bar.shown);
     }
 }
