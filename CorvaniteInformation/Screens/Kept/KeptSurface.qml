@@ -25,6 +25,7 @@ Surface {
         id: page
 
         workbench: surface.workbench
+        shown: surface.visible
     }
 
     PageList {

@@ -35,6 +35,7 @@ FocusScope {
         id: todayPage
 
         workbench: surface.workbench
+        shown: surface.visible
     }
 
     JoinedRows {
