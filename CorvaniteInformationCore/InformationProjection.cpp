@@ -101,23 +101,37 @@ QSet<QString> featuredOn(const QString& day, const QList<SelectionDay>& history)
     return {featuredDay->focusSignalIds.begin(), featuredDay->focusSignalIds.end()};
 }
 
+// What was featured goes to the end, of a repeated id only the first.
+Picks featuredLast(const Picks& candidates, QSet<QString> featured)
+{
+    Picks ordered;
+    for (const InformationSignal* signal : candidates) {
+        if (!featured.contains(signal->id)) {
+            ordered.push_back(signal);
+        }
+    }
+    for (const InformationSignal* signal : candidates) {
+        if (featured.remove(signal->id)) {
+            ordered.push_back(signal);
+        }
+    }
+    return ordered;
+}
+
 Picks focusPicks(const Picks& pool, qsizetype limit, const QString& asOf,
                  const QList<SelectionDay>& history)
 {
-    const auto most = static_cast<std::size_t>(std::max(limit, qsizetype{0}));
     Picks ordered = pool;
-    if (const auto asOfMilliseconds = InformationProjection::isoMilliseconds(asOf)) {
-        ordered = focusCandidates(pool, *asOfMilliseconds);
-        const QSet<QString> featured =
-            featuredOn(InformationProjection::beijingDay(*asOfMilliseconds), history);
-        std::ranges::stable_partition(ordered, [&featured](const InformationSignal* signal) {
-            return !featured.contains(signal->id);
-        });
+    if (const auto milliseconds = InformationProjection::isoMilliseconds(asOf)) {
+        ordered =
+            featuredLast(focusCandidates(pool, *milliseconds),
+                         featuredOn(InformationProjection::beijingDay(*milliseconds), history));
     } else {
         std::ranges::stable_partition(ordered, [](const InformationSignal* signal) {
             return signal->kind == InformationSignalKind::Update;
         });
     }
+    const auto most = static_cast<std::size_t>(std::max(limit, qsizetype{0}));
     ordered.resize(std::min(ordered.size(), most));
     return ordered;
 }
