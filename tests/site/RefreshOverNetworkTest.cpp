@@ -1,8 +1,6 @@
-#include "InformationModel.h"
 #include "LoopbackSite.h"
-#include "MemoryFileManager.h"
 #include "NetworkSiteClient.h"
-#include "SampleSignal.h"
+#include "SampleModel.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
 #include "TestCertificates.h"
@@ -72,7 +70,7 @@ class RefreshOverNetworkTest : public QObject
 private:
     const TestCertificates m_certificates;
     std::unique_ptr<LoopbackSite> m_site;
-    std::unique_ptr<MemoryFileManager> m_files;
+    std::optional<SampleModel> m_sample;
     std::unique_ptr<CountingSiteClient> m_client;
     std::unique_ptr<InformationModel> m_model;
 
@@ -82,13 +80,7 @@ private:
         m_site = std::move(site);
         m_client = std::make_unique<CountingSiteClient>(std::make_unique<NetworkSiteClient>(
             ProductSite::fromOrigin(m_site->origin()).value(), limits));
-        m_model = std::make_unique<InformationModel>(
-            InformationModel::Collaborators{.fileManager = *m_files,
-                                            .now = [] { return 0.0; },
-                                            .seedHistory = {},
-                                            .site = *m_client,
-                                            .runningVersion = u"1.2.3"_qs},
-            shownContent(), std::nullopt);
+        m_model = m_sample->make(shownContent(), *m_client, m_sample->files);
     }
 
     void refresh()
@@ -109,7 +101,7 @@ private:
         QCOMPARE(m_model->retiredSignals(), shownContent().retiredSignals());
         QCOMPARE(m_model->selectionDays(), shownContent().selectionDays());
         QCOMPARE(m_model->packAsOf(), shownAsOf);
-        QVERIFY(m_files->files.isEmpty());
+        QVERIFY(m_sample->files.files.isEmpty());
     }
 
 private Q_SLOTS:
@@ -122,7 +114,9 @@ private Q_SLOTS:
 
     void init()
     {
-        m_files = std::make_unique<MemoryFileManager>();
+        m_sample.emplace();
+        m_sample->hasRepository = false;
+        m_sample->runningVersion = u"1.2.3"_qs;
         reach(std::make_unique<LoopbackSite>());
     }
 
@@ -178,7 +172,7 @@ void RefreshOverNetworkTest::showsAndStoresANewerPack()
     QCOMPARE(*m_model->packSyncNote(), u"已同步 2 条 · 2026-09-03"_qs);
     QCOMPARE(idsOf(m_model->signals()), (QStringList{u"a"_qs, u"b"_qs}));
     QCOMPARE(idsOf(m_model->retiredSignals()), QStringList{u"old"_qs});
-    QCOMPARE(m_files->files,
+    QCOMPARE(m_sample->files.files,
              (QHash<QString, QByteArray>{{packFile, pack}, {retiredFile, newRetired}}));
     QCOMPARE(m_site->requestLines(), (QList<QByteArray>{"GET /information-pack.json HTTP/1.1",
                                                         "GET /retired-signals.json HTTP/1.1"}));
@@ -316,7 +310,7 @@ void RefreshOverNetworkTest::keepsTheRetiredList()
     QCOMPARE(*m_model->packSyncNote(), u"已同步 2 条 · 2026-09-03"_qs);
     QCOMPARE(idsOf(m_model->signals()), (QStringList{u"a"_qs, u"b"_qs}));
     QCOMPARE(idsOf(m_model->retiredSignals()), QStringList{u"gone"_qs});
-    QCOMPARE(m_files->files, (QHash<QString, QByteArray>{{packFile, laterPack}}));
+    QCOMPARE(m_sample->files.files, (QHash<QString, QByteArray>{{packFile, laterPack}}));
 }
 
 void RefreshOverNetworkTest::offersANewerBuild()
@@ -395,7 +389,7 @@ void RefreshOverNetworkTest::endsQuietlyWhenTheProgramQuits()
     m_model.reset();
     m_client.reset();
 
-    QVERIFY(m_files->files.isEmpty());
+    QVERIFY(m_sample->files.files.isEmpty());
     QTRY_COMPARE_WITH_TIMEOUT(m_site->connectionsOpen(), 0, patience);
 }
 

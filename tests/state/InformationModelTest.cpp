@@ -1,15 +1,11 @@
 #include "InformationModel.h"
-#include "FakeSiteClient.h"
 #include "InformationIntake.h"
 #include "InformationProjection.h"
-#include "MemoryFileManager.h"
-#include "SampleSignal.h"
+#include "SampleModel.h"
 #include "Subject.h"
 
 #include <QSignalSpy>
 #include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -23,70 +19,48 @@ class InformationModelTest : public QObject
     Q_OBJECT
 
 private:
-    MemoryFileManager m_files;
-    FakeSiteClient m_site;
-    double m_now = keptTime;
-    QList<InformationSignal> m_signals;
-    QList<InformationSignal> m_retired;
-    QList<SelectionDay> m_days;
-    QString m_asOf;
-    QList<SelectionDay> m_seedHistory;
-
-    std::unique_ptr<InformationModel> makeModel()
-    {
-        return makeModel(InformationWorkspaceRepository::live(m_files).value());
-    }
-
-    std::unique_ptr<InformationModel>
-    makeModel(const std::optional<InformationWorkspaceRepository>& repository)
-    {
-        return std::make_unique<InformationModel>(
-            InformationModel::Collaborators{.fileManager = m_files,
-                                            .now = [this] { return m_now; },
-                                            .seedHistory = m_seedHistory,
-                                            .site = m_site,
-                                            .runningVersion = u"1.0.0"_qs},
-            InformationContent(m_signals, m_retired, m_days, m_asOf), repository);
-    }
+    SampleModel m_sample;
 
     InformationWorkspace stored() const
     {
-        return InformationWorkspaceRepository::live(m_files).value().load(m_files).value();
+        return InformationWorkspaceRepository::live(m_sample.files)
+            .value()
+            .load(m_sample.files)
+            .value();
     }
 
 private Q_SLOTS:
     void init()
     {
-        m_files = MemoryFileManager();
-        m_now = keptTime;
-        m_signals = {sampleSignal(u"a"_qs), sampleSignal(u"b"_qs), sampleSignal(u"c"_qs),
-                     sampleSignal(u"d"_qs)};
-        m_signals[1].lane = InformationLane::Workflow;
-        m_retired = {sampleSignal(u"old"_qs)};
-        m_days = {{u"2026-09-01"_qs, {u"a"_qs, u"old"_qs}, 4},
-                  {u"2026-09-02"_qs, {u"b"_qs, u"gone"_qs}, 3}};
-        m_asOf = u"2026-09-02T04:00:00.000Z"_qs;
-        m_seedHistory = {};
+        m_sample = SampleModel();
+        m_sample.now = keptTime;
+        m_sample.signals = {sampleSignal(u"a"_qs), sampleSignal(u"b"_qs), sampleSignal(u"c"_qs),
+                            sampleSignal(u"d"_qs)};
+        m_sample.signals[1].lane = InformationLane::Workflow;
+        m_sample.retiredSignals = {sampleSignal(u"old"_qs)};
+        m_sample.selectionDays = {{u"2026-09-01"_qs, {u"a"_qs, u"old"_qs}, 4},
+                                  {u"2026-09-02"_qs, {u"b"_qs, u"gone"_qs}, 3}};
+        m_sample.packAsOf = u"2026-09-02T04:00:00.000Z"_qs;
     }
 
     // Start
 
     void startsEmptyWithoutAFileAndMakesNone()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
 
         QCOMPARE(model->workspace(), InformationWorkspace());
         QVERIFY(!model->errorMessage());
-        QVERIFY(m_files.files.isEmpty());
-        QVERIFY(m_files.folders.isEmpty());
+        QVERIFY(m_sample.files.files.isEmpty());
+        QVERIFY(m_sample.files.folders.isEmpty());
     }
 
     void anUnreadableWorkspaceIsReportedAndNeverOverwritten()
     {
         const QByteArray newer = R"({"version": 4})";
-        m_files.files.insert(workspacePath, newer);
+        m_sample.files.files.insert(workspacePath, newer);
 
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         QCOMPARE(model->errorMessage(), u"已有信息没有被覆盖：信息资料库版本 4 暂不受支持。"_qs);
 
         model->toggleKeep(u"a"_qs);
@@ -94,12 +68,13 @@ private Q_SLOTS:
         QCOMPARE(model->workspace(), InformationWorkspace());
         QVERIFY(!model->receipt());
         QVERIFY(!model->canUndo());
-        QCOMPARE(m_files.files.value(workspacePath), newer);
+        QCOMPARE(m_sample.files.files.value(workspacePath), newer);
     }
 
     void withoutARepositoryNothingIsReportedUntilAnAction()
     {
-        const auto model = makeModel(std::nullopt);
+        m_sample.hasRepository = false;
+        const auto model = m_sample.make();
         QVERIFY(!model->errorMessage());
 
         model->resetPreferences();
@@ -110,10 +85,10 @@ private Q_SLOTS:
 
     void keepingSavesInWholeSecondsAndCanBeUndone()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
 
-        QVERIFY(model->isKept(m_signals[0]));
+        QVERIFY(model->isKept(m_sample.signals[0]));
         QCOMPARE(model->receipt(), u"已收下；后续实质变化会续到同一条脉络。"_qs);
         QVERIFY(model->canUndo());
         QCOMPARE(stored(), model->workspace());
@@ -122,7 +97,7 @@ private Q_SLOTS:
         QCOMPARE(entry.saveReason, u"Why a"_qs);
 
         model->undoLastAction();
-        QVERIFY(!model->isKept(m_signals[0]));
+        QVERIFY(!model->isKept(m_sample.signals[0]));
         QCOMPARE(model->receipt(), u"已撤销上一步操作。"_qs);
         QVERIFY(!model->canUndo());
         QCOMPARE(stored(), InformationWorkspace());
@@ -145,9 +120,9 @@ private Q_SLOTS:
     {
         QFETCH(InformationFollowUpdateMode, mode);
         QFETCH(QString, receipt);
-        m_signals[0].followTarget.updateMode = mode;
+        m_sample.signals[0].followTarget.updateMode = mode;
 
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
 
         QCOMPARE(model->receipt(), receipt);
@@ -155,10 +130,10 @@ private Q_SLOTS:
 
     void keepingTwiceTakesTheWholeThreadAway()
     {
-        m_signals[1].followTarget = m_signals[0].followTarget;
-        const auto model = makeModel();
+        m_sample.signals[1].followTarget = m_sample.signals[0].followTarget;
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
-        QVERIFY(model->isKept(m_signals[1]));
+        QVERIFY(model->isKept(m_sample.signals[1]));
 
         model->toggleKeep(u"b"_qs);
 
@@ -169,87 +144,89 @@ private Q_SLOTS:
 
     void keepingASavedThreadThatIsNotFollowedOnlyFollowsAgain()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
         model->updateNote(u"a"_qs, u"我的备注"_qs);
         auto workspace = model->workspace();
         workspace.following.clear();
-        QVERIFY(InformationWorkspaceRepository::live(m_files)->save(workspace, m_files));
+        QVERIFY(
+            InformationWorkspaceRepository::live(m_sample.files)->save(workspace, m_sample.files));
 
-        m_now += 1000;
-        const auto restarted = makeModel();
-        QVERIFY(!restarted->isKept(m_signals[0]));
+        m_sample.now += 1000;
+        const auto restarted = m_sample.make();
+        QVERIFY(!restarted->isKept(m_sample.signals[0]));
         restarted->toggleKeep(u"a"_qs);
 
-        QVERIFY(restarted->isKept(m_signals[0]));
+        QVERIFY(restarted->isKept(m_sample.signals[0]));
         QCOMPARE(restarted->workspace().saved, workspace.saved);
     }
 
     void theLastKeptEntryStandsForAThreadAndTheFirstKeyOnATie()
     {
-        m_signals[1].followTarget = m_signals[0].followTarget;
-        m_signals[2].followTarget = m_signals[0].followTarget;
+        m_sample.signals[1].followTarget = m_sample.signals[0].followTarget;
+        m_sample.signals[2].followTarget = m_sample.signals[0].followTarget;
         InformationWorkspace workspace;
         const std::chrono::sys_seconds early{std::chrono::seconds(1000)};
         const std::chrono::sys_seconds late{std::chrono::seconds(2000)};
         workspace.saved = {
             {u"a"_qs, {early, {}, {}}}, {u"b"_qs, {late, {}, {}}}, {u"c"_qs, {late, {}, {}}}};
-        QVERIFY(InformationWorkspaceRepository::live(m_files)->save(workspace, m_files));
+        QVERIFY(
+            InformationWorkspaceRepository::live(m_sample.files)->save(workspace, m_sample.files));
 
-        QCOMPARE(makeModel()->savedEntry(m_signals[0])->first, u"b"_qs);
+        QCOMPARE(m_sample.make()->savedEntry(m_sample.signals[0])->first, u"b"_qs);
     }
 
     void anUnknownSignalDoesNothing()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"nobody"_qs);
 
         QVERIFY(!model->receipt());
-        QVERIFY(m_files.files.isEmpty());
+        QVERIFY(m_sample.files.files.isEmpty());
     }
 
     // Failing storage
 
     void aFailedSaveRestoresEverythingAndLeavesNoUndo()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
         const auto before = model->workspace();
-        const QByteArray fileBefore = m_files.files.value(workspacePath);
+        const QByteArray fileBefore = m_sample.files.files.value(workspacePath);
 
-        m_files.writeFailure = FileError{FileError::Reason::NoSpace};
+        m_sample.files.writeFailure = FileError{FileError::Reason::NoSpace};
         model->toggleKeep(u"b"_qs);
 
         QCOMPARE(model->workspace(), before);
-        QCOMPARE(m_files.files.value(workspacePath), fileBefore);
+        QCOMPARE(m_sample.files.files.value(workspacePath), fileBefore);
         QVERIFY(!model->receipt());
         QVERIFY(!model->canUndo());
         QCOMPARE(model->errorMessage(),
-                 u"没有保存这次操作："_qs + m_files.writeFailure->localizedDescription());
+                 u"没有保存这次操作："_qs + m_sample.files.writeFailure->localizedDescription());
     }
 
     void aFailedUndoCanBeTriedAgain()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
 
-        m_files.writeFailure = FileError{FileError::Reason::ReadOnly};
+        m_sample.files.writeFailure = FileError{FileError::Reason::ReadOnly};
         model->undoLastAction();
         QVERIFY(model->canUndo());
-        QVERIFY(model->isKept(m_signals[0]));
+        QVERIFY(model->isKept(m_sample.signals[0]));
 
-        m_files.writeFailure.reset();
+        m_sample.files.writeFailure.reset();
         model->undoLastAction();
         QVERIFY(!model->canUndo());
-        QVERIFY(!model->isKept(m_signals[0]));
+        QVERIFY(!model->isKept(m_sample.signals[0]));
     }
 
     void aLaterSuccessLeavesTheErrorMessage()
     {
-        const auto model = makeModel();
-        m_files.writeFailure = FileError{FileError::Reason::NoSpace};
+        const auto model = m_sample.make();
+        m_sample.files.writeFailure = FileError{FileError::Reason::NoSpace};
         model->toggleKeep(u"a"_qs);
-        m_files.writeFailure.reset();
+        m_sample.files.writeFailure.reset();
         model->toggleKeep(u"a"_qs);
 
         QVERIFY(model->errorMessage());
@@ -261,7 +238,7 @@ private Q_SLOTS:
 
     void undoGoesOneStepBack()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
         const auto afterFirst = model->workspace();
         model->toggleKeep(u"b"_qs);
@@ -274,21 +251,21 @@ private Q_SLOTS:
 
     void seeingNeitherFillsNorClearsUndo()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
         model->markSeen(u"b"_qs);
 
         QVERIFY(model->canUndo());
         QVERIFY(!model->receipt());
-        QVERIFY(model->workspace().hasSeen(m_signals[1]));
+        QVERIFY(model->workspace().hasSeen(m_sample.signals[1]));
 
         model->undoLastAction();
-        QVERIFY(!model->workspace().hasSeen(m_signals[1]));
+        QVERIFY(!model->workspace().hasSeen(m_sample.signals[1]));
     }
 
     void seeingAgainSavesNothing()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->markSeen(u"a"_qs);
         model->toggleKeep(u"b"_qs);
         QSignalSpy changes(model.get(), &InformationModel::workspaceChanged);
@@ -301,7 +278,7 @@ private Q_SLOTS:
 
     void aNoteClearsUndoAndIsKeptAsTyped()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
         const auto receipt = model->receipt();
         model->updateNote(u"a"_qs, u" 备注 "_qs);
@@ -313,7 +290,7 @@ private Q_SLOTS:
 
     void aNoteIsTheSameInMemoryAndInTheFile()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->updateNote(u"a"_qs, u"半个字符 "_qs + QChar(0xD83D));
         model->addSource(u"半个字符 "_qs + QChar(0xD83D));
 
@@ -322,17 +299,17 @@ private Q_SLOTS:
 
     void aNoteKeepsASignalThatIsNotKept()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->updateNote(u"b"_qs, u"备注"_qs);
 
-        QVERIFY(model->isKept(m_signals[1]));
+        QVERIFY(model->isKept(m_sample.signals[1]));
         QCOMPARE(model->workspace().saved.at(u"b"_qs).note, u"备注"_qs);
     }
 
     void aNoteOnAThreadGoesToItsEntry()
     {
-        m_signals[1].followTarget = m_signals[0].followTarget;
-        const auto model = makeModel();
+        m_sample.signals[1].followTarget = m_sample.signals[0].followTarget;
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
         model->updateNote(u"b"_qs, u"备注"_qs);
 
@@ -342,7 +319,7 @@ private Q_SLOTS:
 
     void aNoteOnAnUnknownSignalOnlyClearsUndo()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
         const auto before = model->workspace();
         model->updateNote(u"old"_qs, u"备注"_qs);
@@ -355,7 +332,7 @@ private Q_SLOTS:
 
     void reducingHidesTheVersionAndTurnsTheLaneDown()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->reduceSimilar(u"b"_qs);
 
         QCOMPARE(model->receipt(), u"已减少“工作流与方法”并收起当前这条；重要变化仍会保留。"_qs);
@@ -371,20 +348,21 @@ private Q_SLOTS:
 
     void theLaneFilterKeepsOrder()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->setActiveLane(InformationLane::ProductRadar);
 
-        QCOMPARE(model->laneFilteredSignals(), (QList{m_signals[0], m_signals[2], m_signals[3]}));
+        QCOMPARE(model->laneFilteredSignals(),
+                 (QList{m_sample.signals[0], m_sample.signals[2], m_sample.signals[3]}));
     }
 
     // Hand-ins
 
     void anAddressOfASignalKeepsTheSignal()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         QVERIFY(model->addSource(u"https://origin.example/c"_qs));
 
-        QVERIFY(model->isKept(m_signals[2]));
+        QVERIFY(model->isKept(m_sample.signals[2]));
         QVERIFY(model->workspace().customSources.isEmpty());
         QCOMPARE(model->surface(), InformationModel::Surface::Kept);
         QCOMPARE(model->receipt(), u"已收下；后续实质变化会续到同一条脉络。"_qs);
@@ -396,7 +374,7 @@ private Q_SLOTS:
 
     void aSentenceBecomesACustomSourceOnce()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         QVERIFY(model->addSource(u"  跟踪 本地\n模型 "_qs));
         QCOMPARE(model->workspace().customSources.size(), 1);
         QCOMPARE(model->workspace().customSources.first().input, u"跟踪 本地 模型"_qs);
@@ -431,7 +409,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, input);
         QFETCH(QString, message);
-        const auto model = makeModel();
+        const auto model = m_sample.make();
 
         QVERIFY(!model->addSource(input));
         QCOMPARE(model->intakeErrorMessage(), message);
@@ -443,7 +421,7 @@ private Q_SLOTS:
 
     void theHundredthHandInIsTakenAndTheNextRefused()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         for (int number = 1; number <= InformationIntake::maximumCustomSources; ++number) {
             QVERIFY(model->addSource(u"第 %1 项"_qs.arg(number)));
         }
@@ -458,8 +436,8 @@ private Q_SLOTS:
 
     void aFailedHandInStaysOnItsSurface()
     {
-        const auto model = makeModel();
-        m_files.writeFailure = FileError{FileError::Reason::NoSpace};
+        const auto model = m_sample.make();
+        m_sample.files.writeFailure = FileError{FileError::Reason::NoSpace};
 
         QVERIFY(!model->addSource(u"一句话"_qs));
         QVERIFY(!model->addSource(u"https://origin.example/c"_qs));
@@ -471,29 +449,30 @@ private Q_SLOTS:
 
     void aPackStampedInMillisecondsShowsTheComputedFocus()
     {
-        m_seedHistory = {{u"2026-09-02"_qs, {u"a"_qs}, 4}};
-        const auto model = makeModel();
+        m_sample.seedHistory = {{u"2026-09-02"_qs, {u"a"_qs}, 4}};
+        const auto model = m_sample.make();
 
         QCOMPARE(model->focusedSignals(),
-                 InformationProjection::focusedToday(m_signals, {}, 3, m_asOf, m_seedHistory));
-        QVERIFY(!model->focusedSignals().contains(m_signals[0]));
+                 InformationProjection::focusedToday(m_sample.signals, {}, 3, m_sample.packAsOf,
+                                                     m_sample.seedHistory));
+        QVERIFY(!model->focusedSignals().contains(m_sample.signals[0]));
         QCOMPARE(model->focusedSignals().size() + model->remainingSignals().size(),
-                 m_signals.size());
+                 m_sample.signals.size());
     }
 
     void aPackStampedInSecondsShowsTheDaysFeaturedSignals()
     {
-        m_asOf = u"2026-09-01T16:00:00Z"_qs;
-        const auto model = makeModel();
+        m_sample.packAsOf = u"2026-09-01T16:00:00Z"_qs;
+        const auto model = m_sample.make();
 
-        QCOMPARE(model->focusedSignals(), QList{m_signals[1]});
+        QCOMPARE(model->focusedSignals(), QList{m_sample.signals[1]});
     }
 
     void aDayWhoseFeaturedSignalsAreGoneShowsTheComputedFocus()
     {
-        m_asOf = u"2026-09-02T04:00:00Z"_qs;
-        m_days = {{u"2026-09-02"_qs, {u"old"_qs, u"gone"_qs}, 3}};
-        const auto model = makeModel();
+        m_sample.packAsOf = u"2026-09-02T04:00:00Z"_qs;
+        m_sample.selectionDays = {{u"2026-09-02"_qs, {u"old"_qs, u"gone"_qs}, 3}};
+        const auto model = m_sample.make();
 
         QCOMPARE(model->focusedSignals().size(), 3);
     }
@@ -502,19 +481,19 @@ private Q_SLOTS:
 
     void searchLooksAtTheKeptTexts()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
         model->updateNote(u"a"_qs, u"Rust 笔记"_qs);
         model->toggleKeep(u"b"_qs);
         model->addSource(u"Rust 周报"_qs);
 
         model->setSearch(u"  rust "_qs);
-        QCOMPARE(model->keptSignals(), QList{m_signals[0]});
+        QCOMPARE(model->keptSignals(), QList{m_sample.signals[0]});
         QCOMPARE(model->keptCustomSources().size(), 1);
         QCOMPARE(model->keptItemCount(), 3);
 
         model->setSearch(u"label of target:b"_qs);
-        QCOMPARE(model->keptSignals(), QList{m_signals[1]});
+        QCOMPARE(model->keptSignals(), QList{m_sample.signals[1]});
         QVERIFY(model->keptCustomSources().isEmpty());
 
         model->setSearch(u" "_qs);
@@ -525,7 +504,7 @@ private Q_SLOTS:
 
     void onlyAKnownDayOpens()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->openArchiveDay(u"2026-08-30"_qs);
         QCOMPARE(model->surface(), InformationModel::Surface::Today);
         QVERIFY(!model->selectedArchiveDay());
@@ -542,11 +521,11 @@ private Q_SLOTS:
 
     void derivedLists()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
 
         QCOMPARE(model->archiveDays().first().date, u"2026-09-02"_qs);
         QCOMPARE(model->weeklyWeeks().size(), 1);
-        QCOMPARE(model->signalById(u"old"_qs), m_retired[0]);
+        QCOMPARE(model->signalById(u"old"_qs), m_sample.retiredSignals[0]);
         QVERIFY(!model->signalById(u"gone"_qs));
     }
 
@@ -554,11 +533,11 @@ private Q_SLOTS:
 
     void changeSignalsFollowTheAssignment()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         bool keptWhenTold = false;
         bool canUndoWhenTold = false;
         connect(model.get(), &InformationModel::workspaceChanged, this,
-                [&] { keptWhenTold = model->isKept(m_signals[0]); });
+                [&] { keptWhenTold = model->isKept(m_sample.signals[0]); });
         connect(model.get(), &InformationModel::canUndoChanged, this,
                 [&] { canUndoWhenTold = model->canUndo(); });
 

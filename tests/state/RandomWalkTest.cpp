@@ -1,15 +1,14 @@
-#include "FakeSiteClient.h"
-#include "InformationModel.h"
 #include "InformationWorkspaceCoding.h"
-#include "MemoryFileManager.h"
 #include "PlainRules.h"
-#include "SampleSignal.h"
+#include "SampleModel.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
 
+#include <QJsonDocument>
 #include <QMetaMethod>
 #include <QTest>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <numeric>
@@ -121,8 +120,8 @@ private:
     /// Live, retired or, now and then, unknown.
     QString randomId();
     QByteArray randomPack();
-    std::chrono::sys_seconds now() const { return wholeSeconds(m_now); }
-    QByteArray file() const { return m_files.files.value(workspacePath); }
+    std::chrono::sys_seconds now() const { return wholeSeconds(m_sample.now); }
+    QByteArray file() const { return m_sample.files.files.value(workspacePath); }
 
     void require(bool holds, const char* rule)
     {
@@ -135,10 +134,8 @@ private:
     QMap<QString, Action> m_actions;
     QString m_brokenRule;
 
-    MemoryFileManager m_files;
-    FakeSiteClient m_site;
+    SampleModel m_sample;
     std::unique_ptr<InformationModel> m_model;
-    double m_now = 1'788'314'400.25;
     int m_packs = 0;
     unsigned m_seed = 0;
 
@@ -198,8 +195,8 @@ void RandomWalkTest::initTestCase()
         {u"dismissIntakeError"_qs, {4, [model] { model().dismissIntakeError(); }}},
         {u"dismissUpdate"_qs, {4, [model] { model().dismissUpdate(); }}},
     };
-    m_site.answers.insert(SiteClient::appVersionPath,
-                          SiteReply{SiteDocuments::appVersion(u"2.0.0"_qs), 200});
+    m_sample.site->answers.insert(SiteClient::appVersionPath,
+                                  SiteReply{SiteDocuments::appVersion(u"2.0.0"_qs), 200});
     bool isNumber = false;
     const unsigned seed = qEnvironmentVariable("CORVANITE_WALK_SEED").toUInt(&isNumber);
     m_seed = isNumber ? seed : 1;
@@ -231,7 +228,7 @@ void RandomWalkTest::memoryAndDiskAgreeAllTheWay()
             turn -= action->weight;
             ++action;
         }
-        m_now += random(3) * 0.75;
+        m_sample.now += random(3) * 0.75;
         action->act();
         ++action->times;
         verifyState();
@@ -270,21 +267,16 @@ void RandomWalkTest::fillDisk()
     for (int number = 0; number < mostSources - 2; ++number) {
         m_workspace.customSources.append({QUuid::createUuid(), sourceText(number), now()});
     }
-    m_files.files.insert(workspacePath, InformationWorkspaceCoding::encode(m_workspace));
-    m_files.files.insert(packPath, randomPack());
-    m_files.files.insert(retiredPath, SiteDocuments::retired({u"signal-0"_qs, u"past-200"_qs}));
+    m_sample.files.files.insert(workspacePath, InformationWorkspaceCoding::encode(m_workspace));
+    m_sample.files.files.insert(packPath, randomPack());
+    m_sample.files.files.insert(retiredPath,
+                                SiteDocuments::retired({u"signal-0"_qs, u"past-200"_qs}));
 }
 
 void RandomWalkTest::start()
 {
-    m_model = std::make_unique<InformationModel>(
-        InformationModel::Collaborators{.fileManager = m_files,
-                                        .now = [this] { return m_now; },
-                                        .seedHistory = {},
-                                        .site = m_site,
-                                        .runningVersion = u"1.0.0"_qs},
-        InformationContent::atStart(m_files),
-        InformationWorkspaceRepository::live(m_files).value());
+    m_model =
+        m_sample.make(InformationContent::atStart(m_sample.files), *m_sample.site, m_sample.files);
     m_undo.reset();
     m_error.clear();
 }
@@ -345,10 +337,11 @@ void RandomWalkTest::transact(const Expectation& expectation, const std::functio
     const QByteArray fileBefore = file();
     const bool isFailing = random(6) == 0;
     if (isFailing) {
-        m_files.writeFailure = FileError{random(2) == 0 ? Reason::NoSpace : Reason::InputOutput};
+        m_sample.files.writeFailure =
+            FileError{random(2) == 0 ? Reason::NoSpace : Reason::InputOutput};
     }
     act();
-    const auto failure = std::exchange(m_files.writeFailure, std::nullopt);
+    const auto failure = std::exchange(m_sample.files.writeFailure, std::nullopt);
     if (expectation.clearsUndo) {
         m_undo.reset();
     }
@@ -458,7 +451,7 @@ void RandomWalkTest::addSource()
 {
     const auto add = [this](const QString& input, bool isTaken) {
         return [this, input, isTaken] {
-            const bool fails = m_files.writeFailure.has_value();
+            const bool fails = m_sample.files.writeFailure.has_value();
             const bool wasTaken = m_model->addSource(input);
             require(wasTaken == isTaken || (fails && !wasTaken), "a hand-in was taken or not");
         };
@@ -532,26 +525,26 @@ void RandomWalkTest::refreshPackFromSite()
     const QByteArray pack = random(8) == 0 ? QByteArray("no pack") : randomPack();
     const QByteArray retired =
         SiteDocuments::retired({randomId(), u"past-%1"_qs.arg(random(3000))});
-    m_site.answers.insert(SiteClient::packPath, SiteReply{pack, 200});
-    m_site.answers.insert(SiteClient::retiredSignalsPath, SiteReply{retired, 200});
+    m_sample.site->answers.insert(SiteClient::packPath, SiteReply{pack, 200});
+    m_sample.site->answers.insert(SiteClient::retiredSignalsPath, SiteReply{retired, 200});
     if (random(4) == 0) {
-        m_files.writeFailures.insert(retiredPath, FileError{Reason::NoSpace});
+        m_sample.files.writeFailures.insert(retiredPath, FileError{Reason::NoSpace});
     }
     const auto snapshot = InformationPackSync::parse(pack);
-    const auto filesBefore = m_files.files;
+    const auto filesBefore = m_sample.files.files;
     const auto signalsBefore = m_model->signals();
     const auto retiredBefore = m_model->retiredSignals();
 
     bool isFailing = false;
     transact({}, [&] {
-        isFailing = m_files.writeFailure.has_value();
+        isFailing = m_sample.files.writeFailure.has_value();
         m_model->refreshPackFromSite();
     });
 
     auto filesAfter = filesBefore;
     if (snapshot && !isFailing) {
         filesAfter[packPath] = pack;
-        if (m_files.writeFailures.isEmpty()) {
+        if (m_sample.files.writeFailures.isEmpty()) {
             filesAfter[retiredPath] = retired;
         }
         require(m_model->signals() == snapshot->signals, "the new pack is shown");
@@ -561,8 +554,8 @@ void RandomWalkTest::refreshPackFromSite()
         require(m_model->retiredSignals() == retiredBefore, "the old retired list stays");
         require(m_model->packSyncFailed(), "a refresh that failed says so");
     }
-    require(m_files.files == filesAfter, "the refresh left other files than it should");
-    m_files.writeFailures.clear();
+    require(m_sample.files.files == filesAfter, "the refresh left other files than it should");
+    m_sample.files.writeFailures.clear();
 }
 
 // What must hold after every step

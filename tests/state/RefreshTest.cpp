@@ -1,14 +1,9 @@
-#include "FakeSiteClient.h"
-#include "InformationModel.h"
-#include "MemoryFileManager.h"
-#include "SampleSignal.h"
+#include "SampleModel.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
 
 #include <QSignalSpy>
 #include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -40,13 +35,12 @@ class RefreshTest : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<MemoryFileManager> m_files;
-    std::unique_ptr<FakeSiteClient> m_site;
+    std::optional<SampleModel> m_sample;
     std::unique_ptr<InformationModel> m_model;
 
     void setAnswer(QLatin1StringView path, const SiteClient::Answer& answer)
     {
-        m_site->answers.insert(path, answer);
+        m_sample->site->answers.insert(path, answer);
     }
 
     void offerPack(const QByteArray& pack)
@@ -66,21 +60,14 @@ private Q_SLOTS:
     void init()
     {
         m_model.reset();
-        m_files = std::make_unique<MemoryFileManager>();
-        m_site = std::make_unique<FakeSiteClient>();
-        m_model = std::make_unique<InformationModel>(
-            InformationModel::Collaborators{.fileManager = *m_files,
-                                            .now = [] { return 0.0; },
-                                            .seedHistory = {},
-                                            .site = *m_site,
-                                            .runningVersion = u"1.0.0"_qs},
-            shownContent(), InformationWorkspaceRepository::live(*m_files).value());
+        m_sample.emplace();
+        m_model = m_sample->make(shownContent(), *m_sample->site, m_sample->files);
     }
 
     void cleanup()
     {
         m_model.reset();
-        m_site.reset();
+        m_sample->site.reset();
     }
 
     void showsAndStoresANewerPack();
@@ -130,9 +117,9 @@ void RefreshTest::showsAndStoresANewerPack()
     QCOMPARE(idsOf(m_model->retiredSignals()), QStringList{u"old"_qs});
     QCOMPARE(m_model->selectionDays().size(), 2);
     QCOMPARE(m_model->packAsOf(), laterAsOf);
-    QCOMPARE(m_files->files,
+    QCOMPARE(m_sample->files.files,
              (QHash<QString, QByteArray>{{packFile, pack}, {retiredFile, retired}}));
-    QCOMPARE(m_site->requests, (QList{packRequest, retiredRequest}));
+    QCOMPARE(m_sample->site->requests, (QList{packRequest, retiredRequest}));
 }
 
 void RefreshTest::showsTheNewContentAfterARestart()
@@ -142,7 +129,7 @@ void RefreshTest::showsTheNewContentAfterARestart()
 
     m_model->refreshPackFromSite();
 
-    const auto content = InformationContent::atStart(*m_files);
+    const auto content = InformationContent::atStart(m_sample->files);
     QCOMPARE(content.signals(), m_model->signals());
     QCOMPARE(content.retiredSignals(), m_model->retiredSignals());
     QCOMPARE(content.selectionDays(), m_model->selectionDays());
@@ -185,22 +172,22 @@ void RefreshTest::failsWithoutAChange()
     QVERIFY(m_model->packSyncFailed());
     QVERIFY(!m_model->isSyncingPack());
     verifyContentUnchanged();
-    QVERIFY(m_files->files.isEmpty());
-    QCOMPARE(m_site->requests, QList{packRequest});
+    QVERIFY(m_sample->files.files.isEmpty());
+    QCOMPARE(m_sample->site->requests, QList{packRequest});
 }
 
 void RefreshTest::failsWithoutAChangeWhenThePackCannotBeStored()
 {
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
-    m_files->files.insert(packFile, "the pack before");
-    m_files->writeFailures.insert(packFile, FileError{FileError::Reason::NoSpace});
+    m_sample->files.files.insert(packFile, "the pack before");
+    m_sample->files.writeFailures.insert(packFile, FileError{FileError::Reason::NoSpace});
 
     m_model->refreshPackFromSite();
 
     QCOMPARE(*m_model->packSyncNote(), failedNote);
     verifyContentUnchanged();
-    QCOMPARE(m_files->files, (QHash<QString, QByteArray>{{packFile, "the pack before"}}));
-    QCOMPARE(m_site->requests, QList{packRequest});
+    QCOMPARE(m_sample->files.files, (QHash<QString, QByteArray>{{packFile, "the pack before"}}));
+    QCOMPARE(m_sample->site->requests, QList{packRequest});
 }
 
 void RefreshTest::leavesContentThatIsNotOlder_data()
@@ -226,8 +213,8 @@ void RefreshTest::leavesContentThatIsNotOlder()
     QTEST(*m_model->packSyncNote(), "note");
     QVERIFY(!m_model->packSyncFailed());
     verifyContentUnchanged();
-    QVERIFY(m_files->files.isEmpty());
-    QCOMPARE(m_site->requests, QList{packRequest});
+    QVERIFY(m_sample->files.files.isEmpty());
+    QCOMPARE(m_sample->site->requests, QList{packRequest});
 }
 
 void RefreshTest::takesThePackOfTheGreatestLength()
@@ -238,7 +225,7 @@ void RefreshTest::takesThePackOfTheGreatestLength()
     m_model->refreshPackFromSite();
 
     QCOMPARE(*m_model->packSyncNote(), u"已同步 1 条 · 2026-09-03"_qs);
-    QCOMPARE(m_files->files.value(packFile).size(), 1'500'000);
+    QCOMPARE(m_sample->files.files.value(packFile).size(), 1'500'000);
 }
 
 void RefreshTest::takesAnAnswerThatIsNotHttp()
@@ -274,7 +261,7 @@ void RefreshTest::keepsTheHistoryWhenThePackHasNone()
 
 void RefreshTest::showsThePackForThisRunWithoutADirectory()
 {
-    m_files->supportDirectory.reset();
+    m_sample->files.supportDirectory.reset();
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
 
     m_model->refreshPackFromSite();
@@ -282,8 +269,8 @@ void RefreshTest::showsThePackForThisRunWithoutADirectory()
     QCOMPARE(*m_model->packSyncNote(), u"已同步 1 条 · 2026-09-03"_qs);
     QCOMPARE(idsOf(m_model->signals()), QStringList{u"a"_qs});
     QCOMPARE(m_model->retiredSignals(), shownContent().retiredSignals());
-    QVERIFY(m_files->files.isEmpty());
-    QCOMPARE(m_site->requests, QList{packRequest});
+    QVERIFY(m_sample->files.files.isEmpty());
+    QCOMPARE(m_sample->site->requests, QList{packRequest});
 }
 
 void RefreshTest::keepsTheRetiredList_data()
@@ -311,8 +298,8 @@ void RefreshTest::keepsTheRetiredList()
     QCOMPARE(*m_model->packSyncNote(), u"已同步 1 条 · 2026-09-03"_qs);
     QCOMPARE(idsOf(m_model->signals()), QStringList{u"a"_qs});
     QCOMPARE(m_model->retiredSignals(), shownContent().retiredSignals());
-    QCOMPARE(m_files->files, (QHash<QString, QByteArray>{{packFile, pack}}));
-    QCOMPARE(m_site->requests, (QList{packRequest, retiredRequest}));
+    QCOMPARE(m_sample->files.files, (QHash<QString, QByteArray>{{packFile, pack}}));
+    QCOMPARE(m_sample->site->requests, (QList{packRequest, retiredRequest}));
 }
 
 void RefreshTest::replacesTheRetiredList_data()
@@ -338,7 +325,7 @@ void RefreshTest::replacesTheRetiredList()
     m_model->refreshPackFromSite();
 
     QTEST(idsOf(m_model->retiredSignals()), "shown");
-    QCOMPARE(m_files->files.value(retiredFile), document);
+    QCOMPARE(m_sample->files.files.value(retiredFile), document);
     QCOMPARE(m_model->signalById(u"a"_qs)->id, u"a"_qs);
 }
 
@@ -351,14 +338,14 @@ void RefreshTest::storesABrokenRetiredListUnseen()
 
     QCOMPARE(*m_model->packSyncNote(), u"已同步 1 条 · 2026-09-03"_qs);
     QCOMPARE(m_model->retiredSignals(), shownContent().retiredSignals());
-    QCOMPARE(m_files->files.value(retiredFile), "broken");
+    QCOMPARE(m_sample->files.files.value(retiredFile), "broken");
 }
 
 void RefreshTest::showsTheStoredRetiredListWhenTheNewOneCannotBeStored()
 {
     const QByteArray stored = SiteDocuments::retired({u"stored"_qs});
-    m_files->files.insert(retiredFile, stored);
-    m_files->writeFailures.insert(retiredFile, FileError{FileError::Reason::NoSpace});
+    m_sample->files.files.insert(retiredFile, stored);
+    m_sample->files.writeFailures.insert(retiredFile, FileError{FileError::Reason::NoSpace});
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
     setAnswer(SiteClient::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"new"_qs}), 200});
 
@@ -366,22 +353,22 @@ void RefreshTest::showsTheStoredRetiredListWhenTheNewOneCannotBeStored()
 
     QCOMPARE(*m_model->packSyncNote(), u"已同步 1 条 · 2026-09-03"_qs);
     QCOMPARE(idsOf(m_model->retiredSignals()), QStringList{u"stored"_qs});
-    QCOMPARE(m_files->files.value(retiredFile), stored);
+    QCOMPARE(m_sample->files.files.value(retiredFile), stored);
 }
 
 void RefreshTest::runsOnceAtATime()
 {
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
-    m_site->heldPaths = {SiteClient::packPath};
+    m_sample->site->heldPaths = {SiteClient::packPath};
 
     m_model->refreshPackFromSite();
     m_model->refreshPackFromSite();
     QVERIFY(m_model->isSyncingPack());
-    QCOMPARE(m_site->requests, QList{packRequest});
+    QCOMPARE(m_sample->site->requests, QList{packRequest});
 
-    m_site->release();
+    m_sample->site->release();
     QVERIFY(!m_model->isSyncingPack());
-    QCOMPARE(m_site->requests, (QList{packRequest, retiredRequest}));
+    QCOMPARE(m_sample->site->requests, (QList{packRequest, retiredRequest}));
 
     m_model->refreshPackFromSite();
     QCOMPARE(*m_model->packSyncNote(), u"已是最新（1 条，2026-09-03）"_qs);
@@ -392,12 +379,12 @@ void RefreshTest::clearsTheNoteWhileItRuns()
     m_model->refreshPackFromSite();
     QCOMPARE(*m_model->packSyncNote(), failedNote);
 
-    m_site->heldPaths = {SiteClient::packPath};
+    m_sample->site->heldPaths = {SiteClient::packPath};
     m_model->refreshPackFromSite();
     QVERIFY(!m_model->packSyncNote());
     QVERIFY(!m_model->packSyncFailed());
 
-    m_site->release();
+    m_sample->site->release();
     QCOMPARE(*m_model->packSyncNote(), failedNote);
 }
 
@@ -475,7 +462,7 @@ void RefreshTest::leavesTheWorkspaceAlone()
     m_model->toggleKeep(u"old"_qs);
     const auto workspace = m_model->workspace();
     const auto receipt = m_model->receipt();
-    const auto files = m_files->files;
+    const auto files = m_sample->files.files;
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
     setAnswer(SiteClient::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
 
@@ -486,7 +473,7 @@ void RefreshTest::leavesTheWorkspaceAlone()
     QVERIFY(m_model->canUndo());
     QVERIFY(m_model->signalById(u"old"_qs));
     for (auto file = files.begin(); file != files.end(); ++file) {
-        QCOMPARE(m_files->files.value(file.key()), file.value());
+        QCOMPARE(m_sample->files.files.value(file.key()), file.value());
     }
 }
 
@@ -503,28 +490,29 @@ void RefreshTest::endsQuietlyWhenTheModelGoes()
     QFETCH(bool, packHasCome);
     offerPack(SiteDocuments::pack(laterAsOf, {u"a"_qs}));
     setAnswer(SiteClient::retiredSignalsPath, SiteReply{SiteDocuments::retired({u"old"_qs}), 200});
-    m_site->heldPaths = {packHasCome ? SiteClient::retiredSignalsPath : SiteClient::packPath};
+    m_sample->site->heldPaths = {packHasCome ? SiteClient::retiredSignalsPath
+                                             : SiteClient::packPath};
     m_model->refreshPackFromSite();
     QVERIFY(m_model->isSyncingPack());
 
     m_model.reset();
-    m_site->release();
+    m_sample->site->release();
 
-    QCOMPARE(m_site->requests.size(), packHasCome ? 2 : 1);
-    QCOMPARE(m_files->files.contains(packFile), packHasCome);
-    QVERIFY(!m_files->files.contains(retiredFile));
+    QCOMPARE(m_sample->site->requests.size(), packHasCome ? 2 : 1);
+    QCOMPARE(m_sample->files.files.contains(packFile), packHasCome);
+    QVERIFY(!m_sample->files.files.contains(retiredFile));
 }
 
 void RefreshTest::endsQuietlyWhenTheSiteGoesAfterTheModel()
 {
-    m_site->heldPaths = {SiteClient::packPath, SiteClient::appVersionPath};
+    m_sample->site->heldPaths = {SiteClient::packPath, SiteClient::appVersionPath};
     m_model->refreshPackFromSite();
     m_model->probeAppUpdateOnce();
 
     m_model.reset();
-    m_site.reset();
+    m_sample->site.reset();
 
-    QVERIFY(m_files->files.isEmpty());
+    QVERIFY(m_sample->files.files.isEmpty());
 }
 
 TEST_SUBJECT(RefreshTest)

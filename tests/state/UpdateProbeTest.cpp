@@ -1,14 +1,9 @@
-#include "FakeSiteClient.h"
-#include "InformationModel.h"
-#include "MemoryFileManager.h"
-#include "SampleSignal.h"
+#include "SampleModel.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
 
 #include <QSignalSpy>
 #include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -23,37 +18,31 @@ class UpdateProbeTest : public QObject
     Q_OBJECT
 
 private:
-    MemoryFileManager m_files;
-    std::unique_ptr<FakeSiteClient> m_site;
+    std::optional<SampleModel> m_sample;
     std::unique_ptr<InformationModel> m_model;
 
     void makeModel(const QString& runningVersion)
     {
-        m_model = std::make_unique<InformationModel>(
-            InformationModel::Collaborators{.fileManager = m_files,
-                                            .now = [] { return 0.0; },
-                                            .seedHistory = {},
-                                            .site = *m_site,
-                                            .runningVersion = runningVersion},
-            InformationContent({}, {}, {}, {}), std::nullopt);
+        m_sample->runningVersion = runningVersion;
+        m_model = m_sample->make();
     }
 
     void offer(const QByteArray& document)
     {
-        m_site->answers.insert(SiteClient::appVersionPath, SiteReply{document, 200});
+        m_sample->site->answers.insert(SiteClient::appVersionPath, SiteReply{document, 200});
     }
 
 private Q_SLOTS:
     void init()
     {
-        m_site = std::make_unique<FakeSiteClient>();
+        m_sample.emplace();
         makeModel(u"1.2.3"_qs);
     }
 
     void cleanup()
     {
         m_model.reset();
-        m_site.reset();
+        m_sample->site.reset();
     }
 
     void offersANewerBuild();
@@ -79,8 +68,8 @@ void UpdateProbeTest::offersANewerBuild()
     QVERIFY(m_model->availableUpdate());
     QCOMPARE(m_model->availableUpdate()->version, u"1.3.0"_qs);
     QCOMPARE(changed.count(), 1);
-    QCOMPARE(m_site->requests, QList{versionRequest});
-    QVERIFY(m_files.files.isEmpty());
+    QCOMPARE(m_sample->site->requests, QList{versionRequest});
+    QVERIFY(m_sample->files.files.isEmpty());
 }
 
 void UpdateProbeTest::comparesVersions_data()
@@ -109,7 +98,7 @@ void UpdateProbeTest::comparesVersions()
     m_model->probeAppUpdateOnce();
 
     QTEST(m_model->availableUpdate().has_value(), "isOffered");
-    QCOMPARE(m_site->requests, QList{versionRequest});
+    QCOMPARE(m_sample->site->requests, QList{versionRequest});
 }
 
 void UpdateProbeTest::staysSilent_data()
@@ -143,7 +132,7 @@ void UpdateProbeTest::staysSilent_data()
 void UpdateProbeTest::staysSilent()
 {
     QFETCH(SiteClient::Answer, answer);
-    m_site->answers.insert(SiteClient::appVersionPath, answer);
+    m_sample->site->answers.insert(SiteClient::appVersionPath, answer);
 
     m_model->probeAppUpdateOnce();
 
@@ -151,13 +140,13 @@ void UpdateProbeTest::staysSilent()
     QVERIFY(!m_model->hasErrorMessage());
     QVERIFY(!m_model->hasReceipt());
     QVERIFY(!m_model->packSyncNote());
-    QCOMPARE(m_site->requests, QList{versionRequest});
+    QCOMPARE(m_sample->site->requests, QList{versionRequest});
 }
 
 void UpdateProbeTest::takesAnAnswerThatIsNotHttp()
 {
-    m_site->answers.insert(SiteClient::appVersionPath,
-                           SiteReply{SiteDocuments::appVersion(u"1.3.0"_qs), std::nullopt});
+    m_sample->site->answers.insert(SiteClient::appVersionPath,
+                                   SiteReply{SiteDocuments::appVersion(u"1.3.0"_qs), std::nullopt});
 
     m_model->probeAppUpdateOnce();
 
@@ -171,7 +160,7 @@ void UpdateProbeTest::asksOnce()
     m_model->probeAppUpdateOnce();
 
     QVERIFY(!m_model->availableUpdate());
-    QCOMPARE(m_site->requests, QList{versionRequest});
+    QCOMPARE(m_sample->site->requests, QList{versionRequest});
 }
 
 void UpdateProbeTest::asksNothingWithoutAVersionOfItsOwn()
@@ -182,7 +171,7 @@ void UpdateProbeTest::asksNothingWithoutAVersionOfItsOwn()
     m_model->probeAppUpdateOnce();
 
     QVERIFY(!m_model->availableUpdate());
-    QVERIFY(m_site->requests.isEmpty());
+    QVERIFY(m_sample->site->requests.isEmpty());
 }
 
 void UpdateProbeTest::staysAwayOnceDismissed()
@@ -194,19 +183,19 @@ void UpdateProbeTest::staysAwayOnceDismissed()
     m_model->probeAppUpdateOnce();
 
     QVERIFY(!m_model->availableUpdate());
-    QCOMPARE(m_site->requests, QList{versionRequest});
+    QCOMPARE(m_sample->site->requests, QList{versionRequest});
 }
 
 void UpdateProbeTest::endsQuietlyWhenTheModelGoes()
 {
     offer(SiteDocuments::appVersion(u"1.3.0"_qs));
-    m_site->heldPaths = {SiteClient::appVersionPath};
+    m_sample->site->heldPaths = {SiteClient::appVersionPath};
     m_model->probeAppUpdateOnce();
 
     m_model.reset();
-    m_site->release();
+    m_sample->site->release();
 
-    QCOMPARE(m_site->requests, QList{versionRequest});
+    QCOMPARE(m_sample->site->requests, QList{versionRequest});
 }
 
 TEST_SUBJECT(UpdateProbeTest)

@@ -1,0 +1,23 @@
+#include "SampleModel.h"
+
+InformationContent SampleModel::shown() const
+{
+    return {signals, retiredSignals, selectionDays, packAsOf};
+}
+
+std::unique_ptr<InformationModel> SampleModel::make(const InformationContent& content,
+                                                    SiteClient& client,
+                                                    const InformationFileManager& fileManager)
+{
+    return std::make_unique<InformationModel>(
+        InformationModel::Collaborators{
+            .fileManager = fileManager,
+            .now = [this] { return now; },
+            .seedHistory = seedHistory,
+            .site = client,
+            .runningVersion = runningVersion,
+        },
+        content,
+        hasRepository ? std::optional(InformationWorkspaceRepository::live(fileManager).value())
+                      : std::nullopt);
+}
