@@ -17,32 +17,12 @@ class UpdateProbeTest : public QObject
 {
     Q_OBJECT
 
-private:
-    std::optional<SampleModel> m_sample;
-    std::unique_ptr<InformationModel> m_model;
-
-    void makeModel(const QString& runningVersion)
-    {
-        m_sample->runningVersion = runningVersion;
-        m_model = m_sample->make();
-    }
-
-    void offer(const QByteArray& document)
-    {
-        m_sample->site->answers.insert(SiteClient::appVersionPath, SiteReply{document, 200});
-    }
-
 private Q_SLOTS:
     void init()
     {
-        m_sample.emplace();
-        makeModel(u"1.2.3"_qs);
-    }
-
-    void cleanup()
-    {
         m_model.reset();
-        m_sample->site.reset();
+        m_sample = SampleModel();
+        makeModel(u"1.2.3"_qs);
     }
 
     void offersANewerBuild()
@@ -56,8 +36,8 @@ private Q_SLOTS:
         QVERIFY(m_model->availableUpdate());
         QCOMPARE(m_model->availableUpdate()->version, u"1.3.0"_qs);
         QCOMPARE(changed.count(), 1);
-        QCOMPARE(m_sample->site->requests, QList{versionRequest});
-        QVERIFY(m_sample->files.files.isEmpty());
+        QCOMPARE(m_sample.site->requests, QList{versionRequest});
+        QVERIFY(m_sample.files.files.isEmpty());
     }
 
     void comparesVersions_data()
@@ -86,7 +66,7 @@ private Q_SLOTS:
         m_model->probeAppUpdateOnce();
 
         QTEST(m_model->availableUpdate().has_value(), "isOffered");
-        QCOMPARE(m_sample->site->requests, QList{versionRequest});
+        QCOMPARE(m_sample.site->requests, QList{versionRequest});
     }
 
     void staysSilent_data()
@@ -120,7 +100,7 @@ private Q_SLOTS:
     void staysSilent()
     {
         QFETCH(SiteClient::Answer, answer);
-        m_sample->site->answers.insert(SiteClient::appVersionPath, answer);
+        m_sample.site->answers.insert(SiteClient::appVersionPath, answer);
 
         m_model->probeAppUpdateOnce();
 
@@ -128,12 +108,12 @@ private Q_SLOTS:
         QVERIFY(!m_model->hasErrorMessage());
         QVERIFY(!m_model->hasReceipt());
         QVERIFY(!m_model->packSyncNote());
-        QCOMPARE(m_sample->site->requests, QList{versionRequest});
+        QCOMPARE(m_sample.site->requests, QList{versionRequest});
     }
 
     void takesAnAnswerThatIsNotHttp()
     {
-        m_sample->site->answers.insert(
+        m_sample.site->answers.insert(
             SiteClient::appVersionPath,
             SiteReply{SiteDocuments::appVersion(u"1.3.0"_qs), std::nullopt});
 
@@ -149,7 +129,7 @@ private Q_SLOTS:
         m_model->probeAppUpdateOnce();
 
         QVERIFY(!m_model->availableUpdate());
-        QCOMPARE(m_sample->site->requests, QList{versionRequest});
+        QCOMPARE(m_sample.site->requests, QList{versionRequest});
     }
 
     void asksNothingWithoutAVersionOfItsOwn()
@@ -160,7 +140,7 @@ private Q_SLOTS:
         m_model->probeAppUpdateOnce();
 
         QVERIFY(!m_model->availableUpdate());
-        QVERIFY(m_sample->site->requests.isEmpty());
+        QVERIFY(m_sample.site->requests.isEmpty());
     }
 
     void staysAwayOnceDismissed()
@@ -172,20 +152,35 @@ private Q_SLOTS:
         m_model->probeAppUpdateOnce();
 
         QVERIFY(!m_model->availableUpdate());
-        QCOMPARE(m_sample->site->requests, QList{versionRequest});
+        QCOMPARE(m_sample.site->requests, QList{versionRequest});
     }
 
     void endsQuietlyWhenTheModelGoes()
     {
         offer(SiteDocuments::appVersion(u"1.3.0"_qs));
-        m_sample->site->heldPaths = {SiteClient::appVersionPath};
+        m_sample.site->heldPaths = {SiteClient::appVersionPath};
         m_model->probeAppUpdateOnce();
 
         m_model.reset();
-        m_sample->site->release();
+        m_sample.site->release();
 
-        QCOMPARE(m_sample->site->requests, QList{versionRequest});
+        QCOMPARE(m_sample.site->requests, QList{versionRequest});
     }
+
+private:
+    void makeModel(const QString& runningVersion)
+    {
+        m_sample.runningVersion = runningVersion;
+        m_model = m_sample.make();
+    }
+
+    void offer(const QByteArray& document)
+    {
+        m_sample.site->offer(SiteClient::appVersionPath, document);
+    }
+
+    SampleModel m_sample;
+    std::unique_ptr<InformationModel> m_model;
 };
 
 TEST_SUBJECT(UpdateProbeTest)

@@ -19,6 +19,11 @@ FakeSiteClient::~FakeSiteClient()
     release();
 }
 
+void FakeSiteClient::offer(const QString& path, const QByteArray& body)
+{
+    answers.insert(path, SiteReply{body, 200});
+}
+
 void FakeSiteClient::release()
 {
     heldPaths.clear();

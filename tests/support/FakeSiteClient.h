@@ -28,6 +28,9 @@ public:
 
     ~FakeSiteClient() override;
 
+    /// Answers the path with the body, and status 200.
+    void offer(const QString& path, const QByteArray& body);
+
     /// Gives the answers that wait, and holds no more.
     void release();
 

@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 QByteArray contentOf(const QString& path)
 {
@@ -16,6 +17,14 @@ void writeFile(const QString& path, const QByteArray& bytes)
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
         qFatal("%s cannot be written", qUtf8Printable(path));
+    }
+}
+
+void makeLink(const QString& target, const QString& path)
+{
+    if (::symlink(QFile::encodeName(target).constData(), QFile::encodeName(path).constData()) !=
+        0) {
+        qFatal("%s cannot be linked", qUtf8Printable(path));
     }
 }
 

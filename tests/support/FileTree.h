@@ -9,6 +9,9 @@ QByteArray contentOf(const QString& path);
 
 void writeFile(const QString& path, const QByteArray& bytes);
 
+/// @param target where the link at the path leads, as it is written
+void makeLink(const QString& target, const QString& path);
+
 /// The names in a folder, hidden and dangling ones included, in order.
 QStringList namesIn(const QString& folder);
 

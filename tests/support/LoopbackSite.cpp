@@ -127,9 +127,7 @@ LoopbackSite::Answer LoopbackSite::drip(std::chrono::milliseconds pause)
 
 LoopbackSite::Answer LoopbackSite::stall(const QByteArray& part)
 {
-    return [=](QTcpSocket& connection) {
-        connection.write(head(200, part.size() + 1, {}) + part);
-    };
+    return [=](QTcpSocket& connection) { connection.write(head(200, part.size() + 1, {}) + part); };
 }
 
 LoopbackSite::Answer LoopbackSite::silence()

@@ -5,6 +5,16 @@ InformationContent SampleModel::shown() const
     return {signals, retiredSignals, selectionDays, packAsOf};
 }
 
+void SampleModel::store(const InformationWorkspace& workspace)
+{
+    InformationWorkspaceRepository::live(files).value().save(workspace, files).value();
+}
+
+InformationWorkspace SampleModel::stored() const
+{
+    return InformationWorkspaceRepository::live(files).value().load(files).value();
+}
+
 std::unique_ptr<InformationModel> SampleModel::make(const InformationContent& content,
                                                     SiteClient& client,
                                                     const InformationFileManager& fileManager)

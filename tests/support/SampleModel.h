@@ -24,6 +24,11 @@ struct SampleModel
 
     InformationContent shown() const;
 
+    /// Puts a workspace into `files`, for the next model to begin with.
+    void store(const InformationWorkspace& workspace);
+    /// The workspace that `files` hold; a new one where they hold none.
+    InformationWorkspace stored() const;
+
     /// A model over this, which has to outlive it.
     std::unique_ptr<InformationModel> make() { return make(shown(), *site, files); }
     /// The same with content, a site and files of the test's own.

@@ -94,10 +94,7 @@ QList<Stop> stops()
         model.setSurface(Surface::Kept);
     };
     const auto sync = [](const QByteArray& pack) {
-        return [pack](SampleModel& sample) {
-            sample.site->answers.insert(SiteClient::packPath,
-                                        SiteReply{.body = pack, .status = 200});
-        };
+        return [pack](SampleModel& sample) { sample.site->offer(SiteClient::packPath, pack); };
     };
     const auto pressSync = [](const WorkbenchWindow& window) { window.press(u"同步站点"_qs); };
     const auto failToSave = [](SampleModel& sample) {
@@ -226,9 +223,8 @@ QList<Stop> stops()
         {.name = u"a newer build"_qs,
          .prepare =
              [](SampleModel& sample) {
-                 sample.site->answers.insert(
-                     SiteClient::appVersionPath,
-                     SiteReply{.body = SiteDocuments::appVersion(u"1.2.3"_qs), .status = 200});
+                 sample.site->offer(SiteClient::appVersionPath,
+                                    SiteDocuments::appVersion(u"1.2.3"_qs));
              },
          .open =
              [](const WorkbenchWindow& window) {

@@ -21,9 +21,9 @@ QSslConfiguration TestCertificates::signedBy(QLatin1StringView signer, const QSt
                                              int days) const
 {
     requestCertificate(u"server"_qs, address);
-    openssl(u"x509 -req -in server.csr -copy_extensions copy -days %1 -out server.pem %2"_qs
-                .arg(days)
-                .arg(signer));
+    openssl(
+        u"x509 -req -in server.csr -copy_extensions copy -days %1 -out server.pem %2"_qs.arg(days)
+            .arg(signer));
     auto configuration = QSslConfiguration::defaultConfiguration();
     configuration.setLocalCertificate(QSslCertificate(read(u"server.pem"_qs)));
     configuration.setPrivateKey(QSslKey(read(u"server.key"_qs), QSsl::Ec));
@@ -42,8 +42,7 @@ void TestCertificates::openssl(const QString& arguments) const
     process.setWorkingDirectory(m_folder.path());
     process.start(u"openssl"_qs, arguments.split(u' '));
     if (!process.waitForFinished() || process.exitCode() != 0) {
-        qFatal("openssl %s: %s", qPrintable(arguments),
-               process.readAllStandardError().constData());
+        qFatal("openssl %s: %s", qPrintable(arguments), process.readAllStandardError().constData());
     }
 }
 
