@@ -1,5 +1,5 @@
 #include "ArchivePage.h"
-#include "SampleModel.h"
+#include "ShownPage.h"
 #include "Subject.h"
 
 #include <QSignalSpy>
@@ -26,25 +26,19 @@ class ArchivePageTest : public QObject
 private Q_SLOTS:
     void anEmptyHistoryHasNoDays()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        ArchivePage page;
-        page.setWorkbench(model.get());
+        ShownPage<ArchivePage> page;
 
-        QCOMPARE(page.summary(), u"0 天记录"_qs);
-        QCOMPARE(page.days()->rowCount(), 0);
-        QVERIFY(!page.showsDay());
+        QCOMPARE(page->summary(), u"0 天记录"_qs);
+        QCOMPARE(page->days()->rowCount(), 0);
+        QVERIFY(!page->showsDay());
     }
 
     void listsDaysNewestFirst()
     {
-        auto sample = threeDays();
-        const auto model = sample.make();
-        ArchivePage page;
-        page.setWorkbench(model.get());
+        ShownPage<ArchivePage> page(threeDays());
 
-        QCOMPARE(page.summary(), u"3 天记录"_qs);
-        const auto& days = page.days()->rows();
+        QCOMPARE(page->summary(), u"3 天记录"_qs);
+        const auto& days = page->days()->rows();
         QCOMPARE(days.size(), 3);
         QCOMPARE(days[0].date, u"2026-09-02"_qs);
         QCOMPARE(days[0].entries.size(), 2);
@@ -74,12 +68,10 @@ private Q_SLOTS:
         QFETCH(QString, packAsOf);
         auto sample = threeDays();
         sample.packAsOf = packAsOf;
-        const auto model = sample.make();
-        ArchivePage page;
-        page.setWorkbench(model.get());
+        ShownPage<ArchivePage> page(std::move(sample));
 
         QList<bool> todays;
-        for (const auto& day : page.days()->rows()) {
+        for (const auto& day : page->days()->rows()) {
             todays.append(day.isToday);
         }
         QTEST(todays, "todays");
@@ -87,19 +79,16 @@ private Q_SLOTS:
 
     void showsTheSelectedDay()
     {
-        auto sample = threeDays();
-        const auto model = sample.make();
-        ArchivePage page;
-        page.setWorkbench(model.get());
+        ShownPage<ArchivePage> page(threeDays());
 
-        model->openArchiveDay(u"2026-09-01"_qs);
+        page.model->openArchiveDay(u"2026-09-01"_qs);
 
-        QVERIFY(page.showsDay());
-        QCOMPARE(page.dayPosition(), 1);
-        QCOMPARE(page.day().title, u"2026年9月1日 的精选"_qs);
-        QCOMPARE(page.day().previousText, u"前一天 · 8月31日"_qs);
-        QCOMPARE(page.day().nextText, u"后一天 · 9月2日"_qs);
-        QCOMPARE(page.focusRows()->rowCount(), 0);
+        QVERIFY(page->showsDay());
+        QCOMPARE(page->dayPosition(), 1);
+        QCOMPARE(page->day().title, u"2026年9月1日 的精选"_qs);
+        QCOMPARE(page->day().previousText, u"前一天 · 8月31日"_qs);
+        QCOMPARE(page->day().nextText, u"后一天 · 9月2日"_qs);
+        QCOMPARE(page->focusRows()->rowCount(), 0);
     }
 
     void ranksCountTheSignalsThatAreStillThere()
@@ -122,63 +111,53 @@ private Q_SLOTS:
     {
         auto sample = threeDays();
         sample.selectionDays[1].focusSignalIds = QList<QString>(25, u"a"_qs);
-        const auto model = sample.make();
-        ArchivePage page;
-        page.setWorkbench(model.get());
-        QCOMPARE(page.summary(), u"3 天记录"_qs);
-        QCOMPARE(page.days()->rowCount(), 5);
+        ShownPage<ArchivePage> page(std::move(sample));
+        QCOMPARE(page->summary(), u"3 天记录"_qs);
+        QCOMPARE(page->days()->rowCount(), 5);
 
-        model->openArchiveDay(u"2026-09-02"_qs);
-        QCOMPARE(page.dayPosition(), 0);
-        model->openArchiveDay(u"2026-09-01"_qs);
-        QCOMPARE(page.dayPosition(), 3);
+        page.model->openArchiveDay(u"2026-09-02"_qs);
+        QCOMPARE(page->dayPosition(), 0);
+        page.model->openArchiveDay(u"2026-09-01"_qs);
+        QCOMPARE(page->dayPosition(), 3);
     }
 
     void goesBackToTheIndex()
     {
-        auto sample = threeDays();
-        const auto model = sample.make();
-        ArchivePage page;
-        page.setWorkbench(model.get());
-        model->openArchiveDay(u"2026-08-31"_qs);
-        const QSignalSpy dayChanged(&page, &ArchivePage::dayChanged);
+        ShownPage<ArchivePage> page(threeDays());
+        page.model->openArchiveDay(u"2026-08-31"_qs);
+        const QSignalSpy dayChanged(&*page, &ArchivePage::dayChanged);
 
-        model->closeArchiveDay();
+        page.model->closeArchiveDay();
 
-        QVERIFY(!page.showsDay());
-        QCOMPARE(page.dayPosition(), -1);
-        QCOMPARE(page.focusRows()->rowCount(), 0);
+        QVERIFY(!page->showsDay());
+        QCOMPARE(page->dayPosition(), -1);
+        QCOMPARE(page->focusRows()->rowCount(), 0);
         QCOMPARE(dayChanged.size(), 1);
     }
 
     void goesFromDayToDay()
     {
-        auto sample = threeDays();
-        const auto model = sample.make();
-        ArchivePage page;
-        page.setWorkbench(model.get());
-        model->openArchiveDay(u"2026-08-31"_qs);
-        QCOMPARE(page.day().previousText, QString());
+        ShownPage<ArchivePage> page(threeDays());
+        page.model->openArchiveDay(u"2026-08-31"_qs);
+        QCOMPARE(page->day().previousText, QString());
 
-        model->openArchiveDay(page.day().nextDate);
-        model->openArchiveDay(page.day().nextDate);
+        page.model->openArchiveDay(page->day().nextDate);
+        page.model->openArchiveDay(page->day().nextDate);
 
-        QCOMPARE(page.day().title, u"2026年9月2日 的精选"_qs);
-        QCOMPARE(page.day().nextText, QString());
+        QCOMPARE(page->day().title, u"2026年9月2日 的精选"_qs);
+        QCOMPARE(page->day().nextText, QString());
     }
 
     void theFirstOfRepeatedDatesIsShown()
     {
         auto sample = threeDays();
         sample.selectionDays = {{u"2026-09-01"_qs, {u"b"_qs}, 1}, {u"2026-09-01"_qs, {u"a"_qs}, 2}};
-        const auto model = sample.make();
-        ArchivePage page;
-        page.setWorkbench(model.get());
+        ShownPage<ArchivePage> page(std::move(sample));
 
-        model->openArchiveDay(u"2026-09-01"_qs);
+        page.model->openArchiveDay(u"2026-09-01"_qs);
 
-        QCOMPARE(page.day().count, u"当日共 1 条在册信号"_qs);
-        QCOMPARE(page.focusRows()->rows().first().title, u"Title of b"_qs);
+        QCOMPARE(page->day().count, u"当日共 1 条在册信号"_qs);
+        QCOMPARE(page->focusRows()->rows().first().title, u"Title of b"_qs);
     }
 };
 

@@ -1,5 +1,5 @@
 #include "KeptPage.h"
-#include "SampleModel.h"
+#include "ShownPage.h"
 #include "Subject.h"
 
 #include <QSignalSpy>
@@ -25,79 +25,64 @@ class KeptPageTest : public QObject
 private Q_SLOTS:
     void aNewWorkspaceHasNothing()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        KeptPage page;
-        page.setWorkbench(model.get());
+        ShownPage<KeptPage> page;
 
-        QCOMPARE(page.eyebrow(), u"已收下 · 0 项"_qs);
-        QVERIFY(page.empty());
-        QCOMPARE(page.emptyTitle(), u"还没有收下任何内容"_qs);
-        QCOMPARE(page.emptyMessage(),
+        QCOMPARE(page->eyebrow(), u"已收下 · 0 项"_qs);
+        QVERIFY(page->empty());
+        QCOMPARE(page->emptyTitle(), u"还没有收下任何内容"_qs);
+        QCOMPARE(page->emptyMessage(),
                  u"默认精选仍会继续工作；遇到以后还会用到的信息，直接点“收下”。"_qs);
     }
 
     void listsSignalsBeforeHandIns()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        KeptPage page;
-        page.setWorkbench(model.get());
+        ShownPage<KeptPage> page;
 
-        QVERIFY(model->addSource(u"每周看看排版工具"_qs));
-        model->toggleKeep(u"a"_qs);
+        QVERIFY(page.model->addSource(u"每周看看排版工具"_qs));
+        page.model->toggleKeep(u"a"_qs);
 
-        QCOMPARE(page.eyebrow(), u"已收下 · 2 项"_qs);
-        QVERIFY(!page.empty());
-        QCOMPARE(titlesOf(page), QStringList({u"Title of a"_qs, u"每周看看排版工具"_qs}));
+        QCOMPARE(page->eyebrow(), u"已收下 · 2 项"_qs);
+        QVERIFY(!page->empty());
+        QCOMPARE(titlesOf(*page), QStringList({u"Title of a"_qs, u"每周看看排版工具"_qs}));
     }
 
     void countsEverythingKeptWhateverIsSearched()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        KeptPage page;
-        page.setWorkbench(model.get());
-        model->toggleKeep(u"a"_qs);
-        model->toggleKeep(u"b"_qs);
+        ShownPage<KeptPage> page;
+        page.model->toggleKeep(u"a"_qs);
+        page.model->toggleKeep(u"b"_qs);
 
-        model->setSearch(u"title of A"_qs);
+        page.model->setSearch(u"title of A"_qs);
 
-        QCOMPARE(titlesOf(page), QStringList(u"Title of a"_qs));
-        QCOMPARE(page.eyebrow(), u"已收下 · 2 项"_qs);
+        QCOMPARE(titlesOf(*page), QStringList(u"Title of a"_qs));
+        QCOMPARE(page->eyebrow(), u"已收下 · 2 项"_qs);
     }
 
     void findsNothing()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        KeptPage page;
-        page.setWorkbench(model.get());
-        model->toggleKeep(u"a"_qs);
+        ShownPage<KeptPage> page;
+        page.model->toggleKeep(u"a"_qs);
 
-        model->setSearch(u"农历"_qs);
+        page.model->setSearch(u"农历"_qs);
 
-        QVERIFY(page.empty());
-        QCOMPARE(page.emptyTitle(), u"没有匹配的内容"_qs);
-        QCOMPARE(page.emptyMessage(), u"换一个标题、来源或留下的原因试试。"_qs);
+        QVERIFY(page->empty());
+        QCOMPARE(page->emptyTitle(), u"没有匹配的内容"_qs);
+        QCOMPARE(page->emptyMessage(), u"换一个标题、来源或留下的原因试试。"_qs);
     }
 
     void takesRowsOut()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        KeptPage page;
-        page.setWorkbench(model.get());
-        model->toggleKeep(u"a"_qs);
-        QVERIFY(model->addSource(u"每周看看排版工具"_qs));
+        ShownPage<KeptPage> page;
+        page.model->toggleKeep(u"a"_qs);
+        QVERIFY(page.model->addSource(u"每周看看排版工具"_qs));
 
-        page.remove(page.rows()->rows().first());
-        QCOMPARE(titlesOf(page), QStringList(u"每周看看排版工具"_qs));
-        QCOMPARE(model->receipt(), u"已从工作台移除，并停止继续更新。"_qs);
+        page->remove(page->rows()->rows().first());
+        QCOMPARE(titlesOf(*page), QStringList(u"每周看看排版工具"_qs));
+        QCOMPARE(page.model->receipt(), u"已从工作台移除，并停止继续更新。"_qs);
 
-        page.remove(page.rows()->rows().first());
-        QCOMPARE(titlesOf(page), QStringList());
-        QCOMPARE(model->receipt(), u"已移除这条内容。"_qs);
+        page->remove(page->rows()->rows().first());
+        QCOMPARE(titlesOf(*page), QStringList());
+        QCOMPARE(page.model->receipt(), u"已移除这条内容。"_qs);
     }
 
     void keepsTheRowsThatStay()

@@ -1,6 +1,7 @@
 #include "ThreadRow.h"
 #include "SampleSignal.h"
 #include "Subject.h"
+#include "Words.h"
 
 #include <QTest>
 
@@ -18,11 +19,6 @@ QStringList wordsOf(const QList<ThreadRow>& column)
         words.append((row.first ? QString() : u"+"_qs) + kind + QString::number(count));
     }
     return words;
-}
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(u' ');
 }
 
 InformationSignal signalWith(int events, int sources)

@@ -1,5 +1,5 @@
 #include "WeeklyPage.h"
-#include "SampleModel.h"
+#include "ShownPage.h"
 #include "Subject.h"
 
 #include <QSignalSpy>
@@ -53,13 +53,10 @@ class WeeklyPageTest : public QObject
 private Q_SLOTS:
     void isEmptyWithoutHistory()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        WeeklyPage page;
-        page.setWorkbench(model.get());
+        ShownPage<WeeklyPage> page;
 
-        QVERIFY(page.empty());
-        QCOMPARE(page.rows()->rowCount(), 0);
+        QVERIFY(page->empty());
+        QCOMPARE(page->rows()->rowCount(), 0);
     }
 
     void foldsTheHistoryNewestWeekFirst()
@@ -79,12 +76,9 @@ private Q_SLOTS:
 
     void resolvesRetiredSignals()
     {
-        auto sample = twoWeeks();
-        const auto model = sample.make();
-        WeeklyPage page;
-        page.setWorkbench(model.get());
+        ShownPage<WeeklyPage> page(twoWeeks());
 
-        const auto& rows = page.rows()->rows();
+        const auto& rows = page->rows()->rows();
         const auto& entries = rows[4].day.entries;
         QCOMPARE(entries[0].title, u"Title of old"_qs);
         QCOMPARE(entries[1].title, u"已归档条目（gone）"_qs);
@@ -93,15 +87,12 @@ private Q_SLOTS:
 
     void theWeekRunsUntilMidnightInBeijing()
     {
-        auto sample = twoWeeks();
-        const auto model = sample.make();
-        WeeklyPage page;
-        page.setWorkbench(model.get());
-        QCOMPARE(badgesOf(page), QStringList({u"本周 · 进行中"_qs, u"已定格"_qs}));
+        ShownPage<WeeklyPage> page(twoWeeks());
+        QCOMPARE(badgesOf(*page), QStringList({u"本周 · 进行中"_qs, u"已定格"_qs}));
 
-        sample.now = mondayEarly;
-        page.refresh();
-        QCOMPARE(badgesOf(page), QStringList({u"已定格"_qs, u"已定格"_qs}));
+        page.sample.now = mondayEarly;
+        page->refresh();
+        QCOMPARE(badgesOf(*page), QStringList({u"已定格"_qs, u"已定格"_qs}));
     }
 };
 
