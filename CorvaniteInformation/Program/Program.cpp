@@ -5,6 +5,7 @@
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
+#include "ScreenReaderStatus.h"
 #include "WindowActivation.h"
 
 #include <QDateTime>
@@ -76,6 +77,7 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     QObject::connect(&appearance, &AppearancePortal::colorSchemeChanged, [](auto colorScheme) {
         QGuiApplication::setPalette(schemePalette(colorScheme));
     });
+    const ScreenReaderStatus screenReader(QDBusConnection::sessionBus());
 
     const auto site = ProductSite::fromOrigin(siteOrigin);
     if (!site) {
@@ -103,13 +105,16 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
             u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
     const std::unique_ptr<QObject> root(
         view.createWithInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
-                                          {u"reducedMotion"_qs, appearance.reducedMotion()}}));
+                                          {u"reducedMotion"_qs, appearance.reducedMotion()},
+                                          {u"readAloud"_qs, screenReader.present()}}));
     auto* const window = qobject_cast<QWindow*>(root.get());
     if (!window) {
         qFatal("The window cannot be made: %s", qUtf8Printable(view.errorString()));
     }
     QObject::connect(&appearance, &AppearancePortal::reducedMotionChanged, window,
                      [window](bool reduced) { window->setProperty("reducedMotion", reduced); });
+    QObject::connect(&screenReader, &ScreenReaderStatus::presentChanged, window,
+                     [window](bool present) { window->setProperty("readAloud", present); });
     QObject::connect(&parts.instance(), &ProgramInstance::activationRequested, window,
                      [window] { WindowActivation::bringUp(*window); });
     return QGuiApplication::exec();

@@ -1,7 +1,5 @@
 #include "WorkbenchWindow.h"
 
-#include "QmlModules.h"
-
 #include <QTest>
 
 WorkbenchWindow::WorkbenchWindow(InformationModel& model, QSize size,
@@ -19,7 +17,8 @@ WorkbenchWindow::WorkbenchWindow(InformationModel& model, QSize size,
     m_engine.setInitialProperties({{u"workbench"_qs, QVariant::fromValue(&model)},
                                    {u"width"_qs, size.width()},
                                    {u"height"_qs, size.height()},
-                                   {u"reducedMotion"_qs, true}});
+                                   {u"reducedMotion"_qs, true},
+                                   {u"readAloud"_qs, true}});
     m_engine.load(QUrl(
         u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
     if (m_engine.rootObjects().isEmpty()) {

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQml
 import QtQuick
-import QtQuick.Window
 import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 import CorvaniteInformation.State
@@ -15,6 +14,8 @@ Window {
     required property InformationModel workbench
     /// The desktop's own animations are off.
     required property bool reducedMotion
+    /// A screen reader is there.
+    required property bool readAloud
 
     width: 1120
     height: 780
@@ -40,6 +41,10 @@ Window {
     readonly property bool threadOpen: workbench.hasOpenThread
     onThreadOpenChanged: if (threadOpen)
         threadSheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench })
+
+    readonly property bool hasErrorMessage: workbench.hasErrorMessage
+    onHasErrorMessageChanged: if (hasErrorMessage)
+        errorAlert.show(Qt.resolvedUrl("ErrorAlert.qml"), { workbench })
 
     function openHandIn() {
         handInSheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench });
@@ -141,8 +146,8 @@ Window {
         id: handInSheet
     }
 
-    ErrorAlert {
-        workbench: window.workbench
+    SheetLoader {
+        id: errorAlert
     }
 
     WindowEdges {
@@ -154,6 +159,12 @@ Window {
         target: InformationTheme
         property: "reducedMotion"
         value: window.reducedMotion
+    }
+
+    Binding {
+        target: RowReach
+        property: "readAloud"
+        value: window.readAloud
     }
 
     Instantiator {

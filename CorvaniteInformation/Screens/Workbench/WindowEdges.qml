@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Window
 
 /// The margins of a window without a native frame: a drag there resizes it.
 Item {
