@@ -1,6 +1,9 @@
 #include "Browser.h"
 #include "ScreenTour.h"
+#include "SiteDocuments.h"
 #include "Subject.h"
+
+#include <QTest>
 
 /// The sheet with a signal's whole thread.
 class InformationThreadViewTest : public QObject

@@ -4,6 +4,8 @@
 #include "Subject.h"
 #include "WorkbenchWindow.h"
 
+#include <QTest>
+
 using Surface = InformationModel::Surface;
 
 class InformationWorkbenchViewTest : public QObject

@@ -2,6 +2,8 @@
 #include "ScreenTour.h"
 #include "Subject.h"
 
+#include <QTest>
+
 /// The kept items under the reader's hands.
 class KeptSurfaceTest : public QObject
 {

@@ -1,6 +1,8 @@
 #include "ScreenTour.h"
 #include "Subject.h"
 
+#include <QTest>
+
 /// Today's surface under the reader's hands.
 class TodaySurfaceTest : public QObject
 {
