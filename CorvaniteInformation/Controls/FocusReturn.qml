@@ -1,7 +1,7 @@
 import QtQuick
 import CorvaniteInformation.Controls
 
-/// Gives the focus back to where it was; where that is no longer to be seen, to the page.
+/// Gives the focus back to where it was; where that is no longer to be seen, to `home`.
 QtObject {
     id: focusReturn
 
@@ -13,7 +13,7 @@ QtObject {
 
     function remember(item: Item) {
         place = item;
-        byKeyboard = (item as Pressable)?.visualFocus ?? (item as AppTextField)?.visualFocus ?? false;
+        byKeyboard = (item as Pressable)?.visualFocus ?? false;
     }
 
     function giveBack() {

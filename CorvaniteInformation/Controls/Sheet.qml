@@ -29,7 +29,11 @@ T.Dialog {
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
 
-    onAboutToShow: opener.remember(parent.Window.activeFocusItem)
+    onAboutToShow: {
+        const focused = parent.Window.activeFocusItem;
+        opener.remember(focused);
+        opener.byKeyboard = opener.byKeyboard || ((focused as AppTextField)?.visualFocus ?? false);
+    }
     onClosed: opener.giveBack()
     // Its content says what it is; the frame would say it again.
     Component.onCompleted: contentItem.parent.Accessible.ignored = true

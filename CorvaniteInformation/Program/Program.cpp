@@ -6,6 +6,7 @@
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
+#include "ScreenReaderStatus.h"
 #include "WindowActivation.h"
 
 #include <QDateTime>
@@ -81,6 +82,7 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     QObject::connect(&appearance, &AppearancePortal::colorSchemeChanged, [](auto colorScheme) {
         QGuiApplication::setPalette(schemePalette(colorScheme));
     });
+    const ScreenReaderStatus screenReader(QDBusConnection::sessionBus());
 
     const auto site = ProductSite::fromOrigin(siteOrigin);
     if (!site) {
@@ -111,13 +113,16 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
         view.createWithInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
                                           {u"width"_qs, size.width()},
                                           {u"height"_qs, size.height()},
-                                          {u"reducedMotion"_qs, appearance.reducedMotion()}}));
+                                          {u"reducedMotion"_qs, appearance.reducedMotion()},
+                                          {u"readAloud"_qs, screenReader.present()}}));
     auto* const window = qobject_cast<QWindow*>(root.get());
     if (!window) {
         qFatal("The window cannot be made: %s", qUtf8Printable(view.errorString()));
     }
     QObject::connect(&appearance, &AppearancePortal::reducedMotionChanged, window,
                      [window](bool reduced) { window->setProperty("reducedMotion", reduced); });
+    QObject::connect(&screenReader, &ScreenReaderStatus::presentChanged, window,
+                     [window](bool present) { window->setProperty("readAloud", present); });
     QObject::connect(&parts.instance(), &ProgramInstance::activationRequested, window,
                      [window] { WindowActivation::bringUp(*window); });
     return QGuiApplication::exec();

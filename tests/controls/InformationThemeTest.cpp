@@ -6,11 +6,8 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTest>
-#include <QtQml/qqmlextensionplugin.h>
 
 #include <algorithm>
-
-Q_IMPORT_QML_PLUGIN(CorvaniteInformation_ControlsPlugin)
 
 using ColorScheme = AppearancePortal::ColorScheme;
 

@@ -3,6 +3,8 @@
 #include "Subject.h"
 #include "WorkbenchTexts.h"
 
+#include <QTest>
+
 /// The sheet that something is handed in with.
 class AddSourceViewTest : public QObject
 {

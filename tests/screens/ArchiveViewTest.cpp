@@ -1,6 +1,8 @@
 #include "ScreenTour.h"
 #include "Subject.h"
 
+#include <QTest>
+
 /// The archive under the reader's hands, and the ways between it, the weekly digest and today.
 class ArchiveViewTest : public QObject
 {

@@ -3,6 +3,9 @@
 #include "SignalStrata.h"
 #include "Subject.h"
 
+#include <QGuiApplication>
+#include <QTest>
+
 #include <algorithm>
 #include <cmath>
 

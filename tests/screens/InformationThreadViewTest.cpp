@@ -1,8 +1,10 @@
 #include "Browser.h"
 #include "ScreenTour.h"
+#include "SiteDocuments.h"
 #include "Subject.h"
 
 #include <QQmlProperty>
+#include <QTest>
 
 /// The sheet with a signal's whole thread.
 class InformationThreadViewTest : public QObject

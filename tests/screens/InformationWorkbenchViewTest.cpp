@@ -7,6 +7,7 @@
 #include "WorkbenchWindow.h"
 
 #include <QSignalSpy>
+#include <QTest>
 
 #include <algorithm>
 #include <list>

@@ -1,6 +1,9 @@
 #include "Browser.h"
 #include "ScreenTour.h"
+#include "SiteDocuments.h"
 #include "Subject.h"
+
+#include <QTest>
 
 /// The kept items under the reader's hands.
 class KeptSurfaceTest : public QObject

@@ -1,7 +1,11 @@
 #include "ScreenTour.h"
+#include "SiteDocuments.h"
 #include "Subject.h"
 
 #include <QSet>
+#include <QTest>
+
+#include <algorithm>
 
 namespace {
 

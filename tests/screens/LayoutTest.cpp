@@ -2,6 +2,7 @@
 #include "Subject.h"
 
 #include <QHash>
+#include <QTest>
 
 namespace {
 

@@ -1,6 +1,10 @@
 #include "ScreenTour.h"
 #include "Subject.h"
 
+#include <QTest>
+
+#include <algorithm>
+
 /// Today's surface under the reader's hands.
 class TodaySurfaceTest : public QObject
 {

@@ -16,6 +16,7 @@ FocusScope {
         id: page
 
         workbench: surface.workbench
+        shown: surface.visible
         onDayChanged: surface.turn()
     }
 

@@ -6,7 +6,7 @@ import CorvaniteInformation.Pages
 import CorvaniteInformation.State
 
 /// What the reader has kept and handed in, and the search in it.
-FocusScope {
+Surface {
     id: surface
 
     required property InformationModel workbench
@@ -27,6 +27,7 @@ FocusScope {
         id: page
 
         workbench: surface.workbench
+        shown: surface.visible
     }
 
     PageList {

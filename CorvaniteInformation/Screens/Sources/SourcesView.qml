@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 import CorvaniteInformation.State
@@ -34,12 +33,14 @@ FocusScope {
 
         Keys.forwardTo: [scroller]
 
-        T.ScrollBar.vertical: OverlayScrollBar {}
-
         PaneScroller {
             id: scroller
 
             pane: pane
+        }
+
+        OverlayScrollBar {
+            scroller: scroller
         }
 
         Column {

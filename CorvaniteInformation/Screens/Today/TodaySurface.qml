@@ -47,6 +47,7 @@ FocusScope {
 
         workbench: surface.workbench
         showingRemaining: surface.open || surface.unfolded > 0
+        shown: surface.visible
     }
 
     JoinedRows {

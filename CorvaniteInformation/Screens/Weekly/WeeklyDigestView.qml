@@ -18,6 +18,7 @@ FocusScope {
         id: page
 
         workbench: surface.workbench
+        shown: surface.visible
     }
 
     PageList {

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQml
 import QtQuick
-import QtQuick.Window
 import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 import CorvaniteInformation.State
@@ -15,6 +14,8 @@ Window {
     required property InformationModel workbench
     /// The desktop's own animations are off.
     required property bool reducedMotion
+    /// A screen reader is there.
+    required property bool readAloud
 
     minimumWidth: 720
     minimumHeight: 560
@@ -38,6 +39,10 @@ Window {
     readonly property bool threadOpen: workbench.hasOpenThread
     onThreadOpenChanged: if (threadOpen)
         threadSheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench, home: surfaces, blocked })
+
+    readonly property bool hasErrorMessage: workbench.hasErrorMessage
+    onHasErrorMessageChanged: if (hasErrorMessage)
+        errorAlert.show(Qt.resolvedUrl("ErrorAlert.qml"), { workbench, home: surfaces, blocked })
 
     function openHandIn(byKeyboard: bool) {
         handInSheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench, home: surfaces, blocked, byKeyboard });
@@ -165,10 +170,8 @@ Window {
         id: handInSheet
     }
 
-    ErrorAlert {
-        workbench: window.workbench
-        home: surfaces
-        blocked: window.blocked
+    SheetLoader {
+        id: errorAlert
     }
 
     WindowEdges {
@@ -182,6 +185,12 @@ Window {
         target: InformationTheme
         property: "reducedMotion"
         value: window.reducedMotion
+    }
+
+    Binding {
+        target: RowReach
+        property: "readAloud"
+        value: window.readAloud
     }
 
     Instantiator {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 import CorvaniteInformation.Controls
 
 /// Minimise, maximise and close, for a window without a native title bar.

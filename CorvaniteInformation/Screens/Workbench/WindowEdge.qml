@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 
 /// A side or a corner of a window: a drag there resizes it.
 MouseArea {

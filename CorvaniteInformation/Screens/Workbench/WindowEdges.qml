@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Window
 import CorvaniteInformation.Controls
 
 /// The margins of a window without a native frame: the line around it, and a drag there resizes it.

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 
 /// A part of a window without a native title bar by which it is moved; a double click maximises or
 /// restores it. A DragHandler of 6.4 would begin a second move after the first.
