@@ -38,13 +38,13 @@ TestCase {
     }
 
     Item {
-        id: home
+        id: page
     }
 
     Sheet {
         id: sheet
 
-        home: home
+        home: page
         blocked: QtObject {
             function contains(at: point): bool {
                 return at.y < 300;
@@ -136,7 +136,7 @@ TestCase {
         opener.visible = false;
         keyClick(Qt.Key_Escape);
         tryVerify(() => !sheet.visible);
-        verify(home.activeFocus);
+        verify(page.activeFocus);
         opener.visible = true;
     }
 

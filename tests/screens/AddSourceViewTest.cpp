@@ -46,10 +46,10 @@ private Q_SLOTS:
 
     void everyRefusalIsReadOut()
     {
-        const ScreenListener listener;
+        ScreenListener listener(window().content());
         for (int i = 0; i < 2; ++i) {
             window().press(u"交给 Corvanite"_qs);
-            QCOMPARE(ScreenListener::announced(),
+            QCOMPARE(listener.announced(),
                      QStringList(WorkbenchTexts::intakeMessage(InformationIntakeFailure::Empty)));
         }
     }
@@ -73,13 +73,13 @@ private Q_SLOTS:
     void aHeldEnterHandsInOnce()
     {
         QFETCH(const Qt::KeyboardModifiers, modifiers);
-        const ScreenListener listener;
+        ScreenListener listener(window().content());
         for (const bool repeated : {false, true, true}) {
             QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, modifiers, {}, repeated);
             QCoreApplication::sendEvent(window().window(), &enter);
         }
         window().settle();
-        QCOMPARE(ScreenListener::announced().size(), 1);
+        QCOMPARE(listener.announced().size(), 1);
     }
 
     void aClosedSheetIsDropped()

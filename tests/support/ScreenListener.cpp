@@ -1,46 +1,23 @@
 #include "ScreenListener.h"
 
-#include <utility>
+#include "ScreenReader.h"
 
-namespace {
-
-QStringList s_announced;
-QStringList s_focused;
-
-void hear(QAccessibleEvent* event)
+ScreenListener::ScreenListener(QQuickItem* root)
 {
-    const auto* const element = event->accessibleInterface();
-    if (!element) {
-        return;
+    listenTo(root);
+}
+
+void ScreenListener::listenTo(QQuickItem* item)
+{
+    if (ScreenReader::role(item) == QAccessible::Notification) {
+        QObject::connect(item, &QQuickItem::visibleChanged, &m_context, [this, item] {
+            if (item->isVisible()) {
+                m_announced.append(ScreenReader::name(item));
+            }
+        });
     }
-    const auto name = element->text(QAccessible::Name);
-    if (event->type() == QAccessible::Focus) {
-        s_focused.append(name);
+    const auto children = item->childItems();
+    for (auto* const child : children) {
+        listenTo(child);
     }
-    if (event->type() == QAccessible::ObjectShow && element->role() == QAccessible::Notification) {
-        s_announced.append(name);
-    }
-}
-
-} // namespace
-
-ScreenListener::ScreenListener() : m_previous(QAccessible::installUpdateHandler(&hear))
-{
-    s_announced.clear();
-    s_focused.clear();
-}
-
-ScreenListener::~ScreenListener()
-{
-    QAccessible::installUpdateHandler(m_previous);
-}
-
-QStringList ScreenListener::announced()
-{
-    return std::exchange(s_announced, {});
-}
-
-QStringList ScreenListener::focused()
-{
-    return std::exchange(s_focused, {});
 }

@@ -1,21 +1,25 @@
 #pragma once
 
-#include <QAccessible>
+#include <QObject>
+#include <QQuickItem>
 #include <QStringList>
 
-/// Hears what a screen reader is told by itself, while it lives. There is one at a time.
+#include <utility>
+
+/// Hears what a screen reader reads out by itself, wherever the focus is: the notifications that
+/// appear at or below an item, of those that are there when it begins to listen. Only a real screen
+/// would make Qt tell them.
 class ScreenListener
 {
 public:
-    ScreenListener();
-    ~ScreenListener();
-    Q_DISABLE_COPY_MOVE(ScreenListener)
+    explicit ScreenListener(QQuickItem* root);
 
-    /// The notifications that have appeared since this was asked last.
-    static QStringList announced();
-    /// The names of what has got the focus since this was asked last.
-    static QStringList focused();
+    /// What has been read out since this was asked last.
+    QStringList announced() { return std::exchange(m_announced, {}); }
 
 private:
-    QAccessible::UpdateHandler m_previous;
+    void listenTo(QQuickItem* item);
+
+    QObject m_context;
+    QStringList m_announced;
 };

@@ -32,7 +32,7 @@ Column {
 
     /// Ctrl+Enter hands in, wherever the focus is; held, it does so once.
     function submitByKey(event: KeyEvent) {
-        event.accepted = event.modifiers & Qt.ControlModifier;
+        event.accepted = (event.modifiers & Qt.ControlModifier) !== 0;
         if (event.accepted && !event.isAutoRepeat)
             submit();
     }

@@ -22,7 +22,6 @@ Sheet {
     title: threadPage.title
     visible: sheet.workbench.hasOpenThread
 
-    onAboutToShow: threadPage.markSeen()
     // A composition that is not finished is no part of the note.
     onAboutToHide: InputMethod.reset()
     onClosed: sheet.workbench.closeThread()
@@ -38,6 +37,7 @@ Sheet {
 
         workbench: sheet.workbench
         signalId: sheet.signalId
+        onSignalIdChanged: markSeen()
     }
 
     Item {

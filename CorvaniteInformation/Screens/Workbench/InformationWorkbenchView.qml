@@ -127,9 +127,13 @@ Window {
             focus: true
             workbench: window.workbench
 
-            // A press on its blank ground leads the keyboard to it.
-            TapHandler {
-                onTapped: if (!surfaces.activeFocus) surfaces.forceActiveFocus(Qt.MouseFocusReason)
+            // A pane is no stop of its own: without this the Tab key would begin at the window's top.
+            Keys.onTabPressed: stepFocus(true)
+            Keys.onBacktabPressed: stepFocus(false)
+
+            function stepFocus(forward: bool) {
+                const next = window.activeFocusItem.nextItemInFocusChain(forward);
+                next.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
             }
         }
 

@@ -28,7 +28,7 @@ MouseArea {
     // From the first move on the drag is the desktop's, which may keep the release to itself.
     onPositionChanged: {
         edge.window.startSystemResize(side);
-        enabled = false;
-        enabled = true;
+        visible = false;
+        visible = true;
     }
 }

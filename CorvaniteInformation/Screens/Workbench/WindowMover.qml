@@ -17,8 +17,8 @@ MouseArea {
             window.y += by.y;
         }
         window.startSystemMove();
-        enabled = false;
-        enabled = true;
+        visible = false;
+        visible = true;
     }
 
     onPressed: event => grip = Qt.point(event.x, event.y)
