@@ -13,5 +13,5 @@ QtObject {
     property bool fromKeyboard: false
 
     onActiveChanged: if (active && reason !== Qt.ActiveWindowFocusReason)
-        fromKeyboard = [Qt.TabFocusReason, Qt.BacktabFocusReason, Qt.ShortcutFocusReason].includes(reason)
+        fromKeyboard = reason === Qt.TabFocusReason || reason === Qt.BacktabFocusReason || reason === Qt.ShortcutFocusReason
 }
