@@ -112,5 +112,10 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
                      [window](bool reduced) { window->setProperty("reducedMotion", reduced); });
     QObject::connect(&parts.instance(), &ProgramInstance::activationRequested, window,
                      [window] { WindowActivation::bringUp(*window); });
+    QObject::connect(window, &QWindow::activeChanged, window, [window, &parts] {
+        if (window->isActive()) {
+            parts.catchUp();
+        }
+    });
     return QGuiApplication::exec();
 }

@@ -25,11 +25,26 @@ ProgramParts::ProgramParts(const Surroundings& surroundings)
         standing == ProgramInstance::Standing::Unanswered) {
         return;
     }
+    auto workspaceRepository = repository(m_fileManager);
+    if (workspaceRepository) {
+        m_workspaceWatch.emplace(workspaceRepository->filePath);
+    }
     m_model.emplace(
         InformationModel::Collaborators{.fileManager = m_fileManager,
                                         .now = surroundings.now,
                                         .seedHistory = InformationSeed::selectionHistory(),
                                         .site = surroundings.site,
                                         .runningVersion = surroundings.version},
-        InformationContent::atStart(m_fileManager), repository(m_fileManager));
+        InformationContent::atStart(m_fileManager), std::move(workspaceRepository));
+    if (m_workspaceWatch) {
+        QObject::connect(&*m_workspaceWatch, &FileWatch::changed, &*m_model,
+                         &InformationModel::catchUpWithStorage);
+    }
+}
+
+void ProgramParts::catchUp()
+{
+    if (m_workspaceWatch) {
+        m_workspaceWatch->look();
+    }
 }

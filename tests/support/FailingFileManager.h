@@ -22,6 +22,11 @@ public:
         return m_files.readFile(path);
     }
 
+    std::optional<std::chrono::sys_seconds> writtenAt(const QString& path) const override
+    {
+        return m_files.writtenAt(path);
+    }
+
     std::expected<void, FileError> createDirectory(const QString& path) const override
     {
         return writeFailure ? std::unexpected(*writeFailure) : m_files.createDirectory(path);
@@ -31,6 +36,14 @@ public:
                                                const QByteArray& bytes) const override
     {
         return writeFailure ? std::unexpected(*writeFailure) : m_files.replaceFile(path, bytes);
+    }
+
+    std::expected<void, FileError> replaceReadFile(const QString& path,
+                                                   const std::optional<QByteArray>& read,
+                                                   const QByteArray& bytes) const override
+    {
+        return writeFailure ? std::unexpected(*writeFailure)
+                            : m_files.replaceReadFile(path, read, bytes);
     }
 
 private:
