@@ -23,8 +23,9 @@ public:
     virtual std::expected<std::optional<QByteArray>, FileError>
     readFile(const QString& path) const = 0;
 
-    /// When the file was last written; nothing where it is not there or does not tell.
-    virtual std::optional<std::chrono::sys_seconds> writtenAt(const QString& path) const = 0;
+    /// When the file was last written; nothing when no file exists there.
+    virtual std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+    writtenAt(const QString& path) const = 0;
 
     /// Makes the folder and every missing one above it, for this user only (0700).
     virtual std::expected<void, FileError> createDirectory(const QString& path) const = 0;

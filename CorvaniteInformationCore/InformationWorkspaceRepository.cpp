@@ -108,7 +108,7 @@ void InformationWorkspaceRepository::keepPrevious(const QByteArray& document,
 {
     const QString path = previousFilePath();
     const auto kept = fileManager.writtenAt(path);
-    if (!kept || localDay(*kept) != localDay(now)) {
+    if (kept && (!*kept || localDay(**kept) != localDay(now))) {
         std::ignore = fileManager.replaceFile(path, document);
     }
 }

@@ -21,7 +21,8 @@ InstanceFileManager::readFile(const QString& path) const
     return m_files.readFile(path);
 }
 
-std::optional<std::chrono::sys_seconds> InstanceFileManager::writtenAt(const QString& path) const
+std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+InstanceFileManager::writtenAt(const QString& path) const
 {
     return m_files.writtenAt(path);
 }

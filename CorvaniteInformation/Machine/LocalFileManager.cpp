@@ -150,11 +150,15 @@ LocalFileManager::readFile(const QString& path) const
     return readAll(file.get(), status.st_size);
 }
 
-std::optional<std::chrono::sys_seconds> LocalFileManager::writtenAt(const QString& path) const
+std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+LocalFileManager::writtenAt(const QString& path) const
 {
     struct stat status = {};
     if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
-        return std::nullopt;
+        if (errno == ENOENT || errno == ENOTDIR) {
+            return std::nullopt;
+        }
+        return readFailure();
     }
     return std::chrono::sys_seconds(std::chrono::seconds(status.st_mtim.tv_sec));
 }

@@ -24,7 +24,8 @@ public:
     /// Only ordinary files, at most `maximumFileBytes` long; never waits for another program.
     std::expected<std::optional<QByteArray>, FileError>
     readFile(const QString& path) const override;
-    std::optional<std::chrono::sys_seconds> writtenAt(const QString& path) const override;
+    std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+    writtenAt(const QString& path) const override;
     std::expected<void, FileError> createDirectory(const QString& path) const override;
     std::expected<void, FileError> replaceFile(const QString& path,
                                                const QByteArray& bytes) const override;

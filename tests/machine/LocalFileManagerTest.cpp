@@ -399,7 +399,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"file"_qs);
-        QCOMPARE(fileManager.writtenAt(path), std::nullopt);
+        QCOMPARE(fileManager.writtenAt(path).value(), std::nullopt);
         writeFile(path, "bytes");
 
         QFile file(path);
@@ -407,7 +407,8 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadWrite));
         QVERIFY(file.setFileTime(QDateTime::fromSecsSinceEpoch(time.time_since_epoch().count()),
                                  QFileDevice::FileModificationTime));
-        QCOMPARE(fileManager.writtenAt(path), time);
+        QCOMPARE(fileManager.writtenAt(path).value(), time);
+        QVERIFY(!fileManager.writtenAt(QString(5000, u'x')));
     }
 
     void removesLeftovers()

@@ -35,8 +35,7 @@ QByteArray pathOf(int descriptor)
     char link[64];
     std::snprintf(link, sizeof(link), "/proc/self/fd/%d", descriptor);
     QByteArray path(PATH_MAX, Qt::Uninitialized);
-    const auto length =
-        ::readlinkat(AT_FDCWD, link, path.data(), static_cast<size_t>(path.size()));
+    const auto length = ::readlinkat(AT_FDCWD, link, path.data(), static_cast<size_t>(path.size()));
     return path.first(std::max<qsizetype>(length, 0));
 }
 

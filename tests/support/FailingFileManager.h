@@ -22,7 +22,8 @@ public:
         return m_files.readFile(path);
     }
 
-    std::optional<std::chrono::sys_seconds> writtenAt(const QString& path) const override
+    std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+    writtenAt(const QString& path) const override
     {
         return m_files.writtenAt(path);
     }

@@ -38,7 +38,8 @@ public:
         return file == files.cend() ? std::nullopt : std::optional(*file);
     }
 
-    std::optional<std::chrono::sys_seconds> writtenAt(const QString& path) const override
+    std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+    writtenAt(const QString& path) const override
     {
         const auto time = times.constFind(path);
         return time == times.cend() ? std::nullopt : std::optional(*time);
