@@ -2,6 +2,7 @@
 
 #include "AppearancePortal.h"
 #include "CommandLine.h"
+#include "FirstSize.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
@@ -16,6 +17,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QScreen>
 
 #include <cstdio>
 #include <memory>
@@ -69,6 +71,9 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
         return tell(*answer);
     }
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    // Else a screen reader that starts later finds nothing: Qt 6.4 looks for one at the start
+    // alone.
+    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const QGuiApplication application(argc, argv);
     introduce(version);
     chooseTextRendering(application.devicePixelRatio());
@@ -103,8 +108,11 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
         &engine,
         QUrl(
             u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
+    const QSize size = FirstSize::within(QGuiApplication::primaryScreen()->availableSize());
     const std::unique_ptr<QObject> root(
         view.createWithInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
+                                          {u"width"_qs, size.width()},
+                                          {u"height"_qs, size.height()},
                                           {u"reducedMotion"_qs, appearance.reducedMotion()},
                                           {u"readAloud"_qs, screenReader.present()}}));
     auto* const window = qobject_cast<QWindow*>(root.get());

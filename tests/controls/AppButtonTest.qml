@@ -7,7 +7,7 @@ ButtonTestCase {
         {tag: "citrine", component: citrine, role: Accessible.Button, height: 38, label: "收下"},
         {tag: "quiet", component: quiet, role: Accessible.Button, height: 36, label: "这类少看"},
         {tag: "icon", component: icon, role: Accessible.Button, height: 32, label: "关闭回执"},
-        {tag: "link", component: link, role: Accessible.Link, height: 28, label: "更多原文"},
+        {tag: "link", component: link, role: Accessible.Link, height: 32, label: "更多原文"},
         {tag: "chip", component: chip, role: Accessible.RadioButton, height: 28, label: "全部 22"}
     ]
 
@@ -83,6 +83,46 @@ ButtonTestCase {
         verify(Qt.colorEqual(button.outline, InformationTheme.control));
         button[row.property] = false;
         verify(!button.hovered);
+    }
+
+    function test_theRingComesBackWithTheButton() {
+        const button = made(quiet);
+        button.forceActiveFocus(Qt.TabFocusReason);
+        button.enabled = false;
+        verify(!button.visualFocus);
+        button.enabled = true;
+        verify(button.activeFocus);
+        verify(button.visualFocus);
+        elsewhere.forceActiveFocus();
+        button.forceActiveFocus(Qt.MouseFocusReason);
+        verify(!button.visualFocus);
+    }
+
+    function test_aPressTakesTheFocusUnlessItIsNotTo() {
+        const button = made(quiet);
+        elsewhere.forceActiveFocus();
+        button.activeFocusOnPress = false;
+        mouseClick(button);
+        compare(clicks.count, 1);
+        verify(!button.activeFocus);
+        button.activeFocusOnPress = true;
+        mouseClick(button);
+        verify(button.activeFocus);
+    }
+
+    function test_aKeyWithAModifierIsNoPress_data() {
+        return [
+            {tag: "Ctrl+Enter", key: Qt.Key_Return, modifier: Qt.ControlModifier},
+            {tag: "Alt+Space", key: Qt.Key_Space, modifier: Qt.AltModifier},
+            {tag: "Meta+Space", key: Qt.Key_Space, modifier: Qt.MetaModifier}
+        ];
+    }
+
+    function test_aKeyWithAModifierIsNoPress(row) {
+        const button = made(quiet);
+        button.forceActiveFocus();
+        keyClick(row.key, row.modifier);
+        compare(clicks.count, 0);
     }
 
     function test_iconAndLabelStandSideBySide() {

@@ -84,6 +84,18 @@ private Q_SLOTS:
         }
     }
 
+    void theStrongHairlineIsStronger()
+    {
+        for (const auto scheme : {ColorScheme::Light, ColorScheme::Dark}) {
+            QGuiApplication::setPalette(schemePalette(scheme));
+            const auto onCanvas = [this](const char* role) {
+                return ColorContrast::ratio(color(role), color("canvas"));
+            };
+            QVERIFY(onCanvas("hair") > 1.1);
+            QVERIFY(onCanvas("hairStrong") > 1.2 * onCanvas("hair"));
+        }
+    }
+
     void contrast_data()
     {
         QTest::addColumn<QString>("above");

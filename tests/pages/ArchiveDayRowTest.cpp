@@ -31,9 +31,9 @@ private Q_SLOTS:
         QCOMPARE(row.entries.size(), 2);
         QCOMPARE(row.entries[0].number, u"01"_qs);
         QCOMPARE(row.entries[0].title, u"Title of shift"_qs);
-        QCOMPARE(row.entries[0].laneTrail(), u" · 平台变化"_qs);
+        QCOMPARE(row.entries[0].laneName, u"平台变化"_qs);
         QCOMPARE(row.entries[1].number, u"02"_qs);
-        QCOMPARE(row.entries[1].laneTrail(), u" · 产品雷达"_qs);
+        QCOMPARE(row.entries[1].laneName, u"产品雷达"_qs);
     }
 
     void countsEveryFocusIdAndNumbersThoseStillThere()

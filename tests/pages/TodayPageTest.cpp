@@ -187,6 +187,60 @@ private Q_SLOTS:
         QCOMPARE(wordsOf(*page->entries()), words("intro b"));
     }
 
+    void theRemainingCardsFold()
+    {
+        SampleModel sample = fiveSignals();
+        const auto model = sample.make();
+        TodayPage page;
+        page.setWorkbench(model.get());
+        page.setShowingRemaining(true);
+
+        QList<int> positions;
+        for (const auto& entry : page.entries()->rows()) {
+            positions.append(entry.foldingPosition);
+        }
+        QCOMPARE(positions, (QList{-1, -1, -1, -1, -1, 0, 1}));
+    }
+
+    void remembersWhoseChangeIsUnfolded()
+    {
+        SampleModel sample;
+        sample.signals.first().updateSummary = u"Change of a"_qs;
+        const auto model = sample.make();
+        TodayPage page;
+        page.setWorkbench(model.get());
+        const auto unfolded = [&page] {
+            QStringList ids;
+            for (const auto& entry : page.entries()->rows()) {
+                if (entry.card.changeOpen) {
+                    ids.append(entry.card.signalId);
+                }
+            }
+            return ids;
+        };
+
+        page.toggleChange(u"a"_qs);
+        page.toggleChange(u"b"_qs);
+        QCOMPARE(unfolded(), QStringList(u"a"_qs));
+        page.toggleChange(u"a"_qs);
+        QCOMPARE(unfolded(), QStringList());
+    }
+
+    void nothingIsLeftOfALane()
+    {
+        SampleModel sample = fiveSignals();
+        const auto model = sample.make();
+        TodayPage page;
+        page.setWorkbench(model.get());
+        QVERIFY(!page.laneEmpty());
+
+        page.selectLane(u"opportunity"_qs);
+        QVERIFY(page.laneEmpty());
+        QVERIFY(!page.empty());
+        page.selectLane({});
+        QVERIFY(!page.laneEmpty());
+    }
+
     void nothingIsLeftOfTheDay()
     {
         ShownPage<TodayPage> page;

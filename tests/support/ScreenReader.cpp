@@ -1,5 +1,6 @@
 #include "ScreenReader.h"
 
+#include <QQuickWindow>
 #include <QTest>
 
 namespace ScreenReader {
@@ -60,6 +61,11 @@ void press(QQuickItem* item)
 {
     QAccessible::queryAccessibleInterface(item)->actionInterface()->doAction(
         QAccessibleActionInterface::pressAction());
+}
+
+void click(const QQuickItem* item)
+{
+    QTest::mouseClick(item->window(), Qt::LeftButton, {}, place(item).center().toPoint());
 }
 
 void start()

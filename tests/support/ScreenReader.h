@@ -50,6 +50,9 @@ QString description(QQuickItem* item);
 /// Does what a screen reader's user does to activate the item.
 void press(QQuickItem* item);
 
+/// Clicks with the pointer on the item's middle.
+void click(const QQuickItem* item);
+
 /// As when a screen reader starts: controls then say their roles anew.
 void start();
 

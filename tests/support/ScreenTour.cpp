@@ -134,6 +134,13 @@ QList<Stop> stops()
         {.name = u"today, one lane"_qs,
          .act =
              [](InformationModel& model) { model.setActiveLane(InformationLane::FounderStory); }},
+        {.name = u"today, a lane with nothing left"_qs,
+         .act =
+             [](InformationModel& model) {
+                 model.reduceSimilar(u"e"_qs);
+                 model.dismissReceipt();
+                 model.setActiveLane(InformationLane::FounderStory);
+             }},
         {.name = u"today, nothing left"_qs,
          .act =
              [](InformationModel& model) {

@@ -15,9 +15,11 @@ Surface {
         head.focusSearch();
     }
 
+    /// The row goes; where the keyboard was on it, it goes on with what takes the row's place.
     function remove(row: keptRow, index: int) {
+        const byKeyboard = (surface.Window.activeFocusItem as Pressable)?.visualFocus ?? false;
         page.remove(row);
-        if (!list.focusRow(Math.min(index, list.count - 1)))
+        if (byKeyboard && !list.focusRow(Math.min(index, list.count - 1)))
             focusSearch();
     }
 

@@ -28,6 +28,9 @@ FocusScope {
         clip: true
         focus: true
 
+        Accessible.role: Accessible.Pane
+        Accessible.name: "信源清单"
+
         Keys.forwardTo: [scroller]
 
         PaneScroller {

@@ -29,6 +29,9 @@ FocusScope {
         head: head
         model: page.rows
 
+        Accessible.role: Accessible.Pane
+        Accessible.name: "周报精选"
+
         Column {
             id: head
 
