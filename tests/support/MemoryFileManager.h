@@ -6,7 +6,6 @@
 #include <QSet>
 
 #include <functional>
-#include <utility>
 
 /// Files in memory, with failures on demand.
 class MemoryFileManager final : public InformationFileManager
@@ -28,59 +27,14 @@ public:
     QHash<QString, FileError> writeFailures;
 
     std::optional<QString> applicationSupportDirectory() const override { return supportDirectory; }
-
-    std::expected<std::optional<QByteArray>, FileError> readFile(const QString& path) const override
-    {
-        if (readFailure) {
-            return std::unexpected(*readFailure);
-        }
-        const auto file = files.constFind(path);
-        return file == files.cend() ? std::nullopt : std::optional(*file);
-    }
-
+    std::expected<std::optional<QByteArray>, FileError>
+    readFile(const QString& path) const override;
     std::expected<std::optional<std::chrono::sys_seconds>, FileError>
-    writtenAt(const QString& path) const override
-    {
-        const auto time = times.constFind(path);
-        return time == times.cend() ? std::nullopt : std::optional(*time);
-    }
-
-    std::expected<void, FileError> createDirectory(const QString& path) const override
-    {
-        if (writeFailure) {
-            return std::unexpected(*writeFailure);
-        }
-        folders.insert(path);
-        return {};
-    }
-
+    writtenAt(const QString& path) const override;
+    std::expected<void, FileError> createDirectory(const QString& path) const override;
     std::expected<void, FileError> replaceFile(const QString& path,
-                                               const QByteArray& bytes) const override
-    {
-        if (writeFailure) {
-            return std::unexpected(*writeFailure);
-        }
-        if (const auto failure = writeFailures.constFind(path); failure != writeFailures.cend()) {
-            return std::unexpected(*failure);
-        }
-        files.insert(path, bytes);
-        return {};
-    }
-
+                                               const QByteArray& bytes) const override;
     std::expected<void, FileError> replaceReadFile(const QString& path,
                                                    const std::optional<QByteArray>& read,
-                                                   const QByteArray& bytes) const override
-    {
-        if (const auto change = std::exchange(beforeReplacing, nullptr)) {
-            change();
-        }
-        const auto present = readFile(path);
-        if (!present) {
-            return std::unexpected(present.error());
-        }
-        if (*present != read) {
-            return std::unexpected(FileError{FileError::Reason::ChangedMeanwhile});
-        }
-        return replaceFile(path, bytes);
-    }
+                                                   const QByteArray& bytes) const override;
 };

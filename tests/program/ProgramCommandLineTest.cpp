@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-class CommandLineTest : public QObject
+class ProgramCommandLineTest : public QObject
 {
     Q_OBJECT
 
@@ -87,5 +87,5 @@ private Q_SLOTS:
     }
 };
 
-TEST_SUBJECT(CommandLineTest)
-#include "CommandLineTest.moc"
+TEST_SUBJECT(ProgramCommandLineTest)
+#include "ProgramCommandLineTest.moc"
