@@ -2,15 +2,18 @@
 
 #include "AppearancePortal.h"
 #include "CommandLine.h"
+#include "ExportKept.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
+#include "TerminationSignals.h"
 #include "WindowActivation.h"
 
 #include <QDateTime>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QImage>
+#include <QNetworkProxyFactory>
 #include <QPixmap>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -32,9 +35,10 @@ QStringList argumentsOf(int argc, char* argv[])
 
 int tell(const CommandLine::Answer& answer)
 {
-    std::fputs(answer.text.toLocal8Bit().constData(),
-               answer.exitCode == EXIT_SUCCESS ? stdout : stderr);
-    return answer.exitCode;
+    auto* const output = answer.exitCode == EXIT_SUCCESS ? stdout : stderr;
+    const bool isTold =
+        std::fputs(answer.text.toLocal8Bit().constData(), output) >= 0 && std::fflush(output) == 0;
+    return isTold ? answer.exitCode : EXIT_FAILURE;
 }
 
 double secondsNow()
@@ -64,8 +68,13 @@ void chooseTextRendering(double devicePixelRatio)
 
 int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString& version)
 {
-    if (const auto answer = CommandLine::answer(argumentsOf(argc, argv), version)) {
+    const auto environment = QProcessEnvironment::systemEnvironment();
+    const auto request = CommandLine::request(argumentsOf(argc, argv), version);
+    if (const auto* const answer = std::get_if<CommandLine::Answer>(&request)) {
         return tell(*answer);
+    }
+    if (const auto* const keptExport = std::get_if<CommandLine::Export>(&request)) {
+        return tell(exportKept(*keptExport, environment));
     }
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication application(argc, argv);
@@ -82,11 +91,11 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
         qFatal("The program was built for a site that is not secure: %s",
                qUtf8Printable(siteOrigin));
     }
+    // Which way that is, is asked for at the first request, after the first frame.
+    QNetworkProxyFactory::setUseSystemConfiguration(true);
     NetworkSiteClient siteClient(*site, NetworkSiteClient::Limits());
-    ProgramParts parts({.environment = QProcessEnvironment::systemEnvironment(),
-                        .now = secondsNow,
-                        .site = siteClient,
-                        .version = version});
+    ProgramParts parts(
+        {.environment = environment, .now = secondsNow, .site = siteClient, .version = version});
     if (parts.instance().standing() == ProgramInstance::Standing::Unanswered) {
         return tell(CommandLine::unanswered());
     }
@@ -110,7 +119,11 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     }
     QObject::connect(&appearance, &AppearancePortal::reducedMotionChanged, window,
                      [window](bool reduced) { window->setProperty("reducedMotion", reduced); });
-    QObject::connect(&parts.instance(), &ProgramInstance::activationRequested, window,
-                     [window] { WindowActivation::bringUp(*window); });
+    QObject::connect(
+        &parts.instance(), &ProgramInstance::activationRequested, window,
+        [window](const QByteArray& token) { WindowActivation::bringUp(*window, token); });
+    const TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::endRequested, window,
+                     &QWindow::close);
     return QGuiApplication::exec();
 }
