@@ -84,6 +84,11 @@ class Tour:
         self._program.wait_for("链接或一句话").set_text("http://127.0.0.1/")
         self._program.wait_for("交给 Corvanite", "push button").press()
 
+    def keys(self) -> None:
+        self.today()
+        self._program.press_keys("F1")
+        self._program.wait_for("键盘操作", "dialog")
+
     def kept_empty(self) -> None:
         self._program.press_keys("ctrl+2")
 
@@ -184,6 +189,7 @@ SCREENS = [
     Screen(Tour.thread),
     Screen(Tour.hand_in),
     Screen(Tour.hand_in_refused),
+    Screen(Tour.keys),
     Screen(Tour.kept),
     Screen(Tour.kept_no_match),
     Screen(Tour.weekly),

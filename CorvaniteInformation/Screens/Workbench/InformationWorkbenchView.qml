@@ -141,6 +141,10 @@ Window {
         id: handInSheet
     }
 
+    SheetLoader {
+        id: keysSheet
+    }
+
     ErrorAlert {
         workbench: window.workbench
     }
@@ -174,6 +178,11 @@ Window {
     Shortcut {
         sequence: "Ctrl+N"
         onActivated: window.openHandIn()
+    }
+
+    Shortcut {
+        sequences: ["F1", "Ctrl+/"]
+        onActivated: keysSheet.show(Qt.resolvedUrl("../Keys/KeysView.qml"), {})
     }
 
     Shortcut {
