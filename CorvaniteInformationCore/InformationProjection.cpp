@@ -29,39 +29,126 @@ NewestByTarget newestByTarget(const QList<InformationSignal>& signals)
     return newest;
 }
 
-QSet<QString> idsOf(const QList<InformationSignal>& signals)
+// What is picked is copied once, at the end: a signal is large.
+using Picks = std::vector<const InformationSignal*>;
+
+QList<InformationSignal> copies(const Picks& picks)
 {
-    QSet<QString> ids;
-    ids.reserve(signals.size());
-    for (const InformationSignal& signal : signals) {
-        ids.insert(signal.id);
+    QList<InformationSignal> signals;
+    signals.reserve(static_cast<qsizetype>(picks.size()));
+    for (const InformationSignal* signal : picks) {
+        signals.append(*signal);
     }
-    return ids;
+    return signals;
+}
+
+void append(Picks& picks, const Picks& further)
+{
+    picks.insert(picks.end(), further.begin(), further.end());
+}
+
+Picks todaysPicks(const QList<InformationSignal>& signals, const InformationWorkspace& workspace)
+{
+    const QSet<QString> hidden(workspace.hidden.begin(), workspace.hidden.end());
+    const auto isHidden = [&hidden](const InformationSignal& signal) {
+        return !hidden.isEmpty() && (hidden.contains(signal.id) ||
+                                     hidden.contains(InformationProjection::versionKey(signal)));
+    };
+    Picks shown;
+    Picks reduced;
+    for (const InformationSignal& signal : signals) {
+        if (!isHidden(signal)) {
+            (workspace.reducedLanes.contains(signal.lane) ? reduced : shown).push_back(&signal);
+        }
+    }
+    append(shown, reduced);
+    return shown;
 }
 
 // Fresh news, then updates, then older news, which starts with another entry each day.
-QList<InformationSignal> focusCandidates(const QList<InformationSignal>& pool, qint64 asOf)
+Picks focusCandidates(const Picks& pool, qint64 asOf)
 {
     const qint64 cutoff = asOf - millisecondsPerDay;
-    QList<InformationSignal> recentNews;
-    QList<InformationSignal> updates;
-    QList<InformationSignal> olderNews;
-    for (const InformationSignal& signal : pool) {
-        if (signal.kind == InformationSignalKind::Update) {
-            updates.append(signal);
-        } else if (InformationProjection::isoMilliseconds(signal.observedAt).value_or(0) >=
+    Picks recentNews;
+    Picks updates;
+    Picks olderNews;
+    for (const InformationSignal* signal : pool) {
+        if (signal->kind == InformationSignalKind::Update) {
+            updates.push_back(signal);
+        } else if (InformationProjection::isoMilliseconds(signal->observedAt).value_or(0) >=
                    cutoff) {
-            recentNews.append(signal);
+            recentNews.push_back(signal);
         } else {
-            olderNews.append(signal);
+            olderNews.push_back(signal);
         }
     }
-    if (!olderNews.isEmpty()) {
-        const qsizetype count = olderNews.size();
+    if (!olderNews.empty()) {
+        const auto count = static_cast<qint64>(olderNews.size());
         const qint64 turn = (asOf / millisecondsPerDay % count + count) % count;
         std::ranges::rotate(olderNews, olderNews.begin() + turn);
     }
-    return recentNews + updates + olderNews;
+    append(recentNews, updates);
+    append(recentNews, olderNews);
+    return recentNews;
+}
+
+QSet<QString> featuredOn(const QString& day, const QList<SelectionDay>& history)
+{
+    const auto featuredDay = std::ranges::find(history, day, &SelectionDay::date);
+    if (featuredDay == history.end()) {
+        return {};
+    }
+    return {featuredDay->focusSignalIds.begin(), featuredDay->focusSignalIds.end()};
+}
+
+// What was featured goes to the end, of a repeated id only the first.
+Picks featuredLast(const Picks& candidates, QSet<QString> featured)
+{
+    Picks ordered;
+    for (const InformationSignal* signal : candidates) {
+        if (!featured.contains(signal->id)) {
+            ordered.push_back(signal);
+        }
+    }
+    for (const InformationSignal* signal : candidates) {
+        if (featured.remove(signal->id)) {
+            ordered.push_back(signal);
+        }
+    }
+    return ordered;
+}
+
+Picks focusPicks(const Picks& pool, qsizetype limit, const QString& asOf,
+                 const QList<SelectionDay>& history)
+{
+    Picks ordered = pool;
+    if (const auto milliseconds = InformationProjection::isoMilliseconds(asOf)) {
+        ordered =
+            featuredLast(focusCandidates(pool, *milliseconds),
+                         featuredOn(InformationProjection::beijingDay(*milliseconds), history));
+    } else {
+        std::ranges::stable_partition(ordered, [](const InformationSignal* signal) {
+            return signal->kind == InformationSignalKind::Update;
+        });
+    }
+    const auto most = static_cast<std::size_t>(std::max(limit, qsizetype{0}));
+    ordered.resize(std::min(ordered.size(), most));
+    return ordered;
+}
+
+// The last kept first. The map gives the ids in ascending order, and a stable sort leaves them so
+// where times tie.
+std::vector<InformationWorkspace::SavedMap::const_pointer>
+lastSavedFirst(const InformationWorkspace::SavedMap& entries)
+{
+    std::vector<InformationWorkspace::SavedMap::const_pointer> saved;
+    saved.reserve(entries.size());
+    for (const auto& entry : entries) {
+        saved.push_back(&entry);
+    }
+    std::ranges::stable_sort(saved, std::ranges::greater(),
+                             [](const auto* entry) { return entry->second.savedAt; });
+    return saved;
 }
 
 } // namespace
@@ -69,16 +156,7 @@ QList<InformationSignal> focusCandidates(const QList<InformationSignal>& pool, q
 QList<InformationSignal> InformationProjection::today(const QList<InformationSignal>& signals,
                                                       const InformationWorkspace& workspace)
 {
-    const QSet<QString> hidden(workspace.hidden.begin(), workspace.hidden.end());
-    QList<InformationSignal> shown;
-    QList<InformationSignal> reduced;
-    for (const InformationSignal& signal : signals) {
-        if (hidden.contains(signal.id) || hidden.contains(versionKey(signal))) {
-            continue;
-        }
-        (workspace.reducedLanes.contains(signal.lane) ? reduced : shown).append(signal);
-    }
-    return shown + reduced;
+    return copies(todaysPicks(signals, workspace));
 }
 
 QList<InformationSignal>
@@ -86,43 +164,7 @@ InformationProjection::focusedToday(const QList<InformationSignal>& signals,
                                     const InformationWorkspace& workspace, qsizetype limit,
                                     const QString& asOf, const QList<SelectionDay>& history)
 {
-    if (limit < 1) {
-        return {};
-    }
-    const QList<InformationSignal> pool = today(signals, workspace);
-    const std::optional<qint64> asOfMilliseconds = isoMilliseconds(asOf);
-    if (!asOfMilliseconds) {
-        QList<InformationSignal> updatesFirst = pool;
-        std::ranges::stable_partition(updatesFirst, [](const InformationSignal& signal) {
-            return signal.kind == InformationSignalKind::Update;
-        });
-        return updatesFirst.mid(0, limit);
-    }
-
-    const QList<InformationSignal> candidates = focusCandidates(pool, *asOfMilliseconds);
-    const auto featuredDay =
-        std::ranges::find(history, beijingDay(*asOfMilliseconds), &SelectionDay::date);
-    const QList<QString> featuredIds =
-        featuredDay == history.end() ? QList<QString>() : featuredDay->focusSignalIds;
-    const QSet<QString> featured(featuredIds.begin(), featuredIds.end());
-
-    QList<InformationSignal> picked;
-    for (const InformationSignal& signal : candidates) {
-        if (!featured.contains(signal.id)) {
-            picked.append(signal);
-        }
-    }
-    QSet<QString> pickedIds = idsOf(picked);
-    for (const InformationSignal& signal : candidates) {
-        if (picked.size() >= limit) {
-            break;
-        }
-        if (!pickedIds.contains(signal.id)) {
-            pickedIds.insert(signal.id);
-            picked.append(signal);
-        }
-    }
-    return picked.mid(0, limit);
+    return copies(focusPicks(todaysPicks(signals, workspace), limit, asOf, history));
 }
 
 QList<InformationSignal>
@@ -130,51 +172,44 @@ InformationProjection::remainingToday(const QList<InformationSignal>& signals,
                                       const InformationWorkspace& workspace, qsizetype limit,
                                       const QString& asOf, const QList<SelectionDay>& history)
 {
-    const QSet<QString> focused = idsOf(focusedToday(signals, workspace, limit, asOf, history));
-    QList<InformationSignal> remaining = today(signals, workspace);
-    remaining.removeIf(
-        [&focused](const InformationSignal& signal) { return focused.contains(signal.id); });
-    return remaining;
+    Picks remaining = todaysPicks(signals, workspace);
+    QSet<QString> focused;
+    for (const InformationSignal* signal : focusPicks(remaining, limit, asOf, history)) {
+        focused.insert(signal->id);
+    }
+    std::erase_if(remaining, [&focused](const InformationSignal* signal) {
+        return focused.contains(signal->id);
+    });
+    return copies(remaining);
 }
 
 QList<InformationSignal> InformationProjection::kept(const QList<InformationSignal>& signals,
                                                      const InformationWorkspace& workspace)
 {
-    const QHash<QString, InformationSignal> index = indexById(signals);
+    const auto known = pointersById(signals);
     const NewestByTarget newest = newestByTarget(signals);
     const QSet<QString> followed(workspace.following.begin(), workspace.following.end());
 
-    QList<InformationSignal> shown;
+    Picks shown;
     QSet<QString> shownTargets;
-    const auto show = [&shown, &shownTargets](const InformationSignal& signal) {
-        if (!shownTargets.contains(signal.followTarget.id)) {
-            shownTargets.insert(signal.followTarget.id);
-            shown.append(signal);
+    const auto show = [&shown, &shownTargets](const InformationSignal* signal) {
+        if (!shownTargets.contains(signal->followTarget.id)) {
+            shownTargets.insert(signal->followTarget.id);
+            shown.push_back(signal);
         }
     };
-
-    // The map gives the ids in ascending order, and a stable sort leaves them so where times tie.
-    std::vector<InformationWorkspace::SavedMap::const_pointer> saved;
-    saved.reserve(workspace.saved.size());
-    for (const auto& entry : workspace.saved) {
-        saved.push_back(&entry);
-    }
-    std::ranges::stable_sort(saved, std::ranges::greater(),
-                             [](const auto* entry) { return entry->second.savedAt; });
-    for (const auto* entry : saved) {
-        const auto signal = index.constFind(entry->first);
-        if (signal == index.constEnd()) {
-            continue;
+    for (const auto* entry : lastSavedFirst(workspace.saved)) {
+        if (const InformationSignal* signal = known.value(entry->first)) {
+            const QString& target = signal->followTarget.id;
+            show(followed.contains(target) ? newest.value(target) : signal);
         }
-        const QString& target = signal->followTarget.id;
-        show(followed.contains(target) ? *newest.value(target) : *signal);
     }
     for (const QString& target : workspace.following) {
         if (const InformationSignal* signal = newest.value(target)) {
-            show(*signal);
+            show(signal);
         }
     }
-    return shown;
+    return copies(shown);
 }
 
 QList<InformationSignal> InformationProjection::following(const QList<InformationSignal>& signals,

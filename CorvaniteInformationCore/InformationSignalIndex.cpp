@@ -2,13 +2,24 @@
 
 QHash<QString, InformationSignal> indexById(const QList<InformationSignal>& signals)
 {
+    const auto pointers = pointersById(signals);
     QHash<QString, InformationSignal> index;
     index.reserve(signals.size());
-    for (const InformationSignal& signal : signals) {
-        if (index.contains(signal.id)) {
-            qFatal("two signals have the id \"%s\"", qUtf8Printable(signal.id));
-        }
-        index.insert(signal.id, signal);
+    for (auto entry = pointers.cbegin(); entry != pointers.cend(); ++entry) {
+        index.insert(entry.key(), **entry);
     }
     return index;
+}
+
+QHash<QString, const InformationSignal*> pointersById(const QList<InformationSignal>& signals)
+{
+    QHash<QString, const InformationSignal*> pointers;
+    pointers.reserve(signals.size());
+    for (const InformationSignal& signal : signals) {
+        if (pointers.contains(signal.id)) {
+            qFatal("two signals have the id \"%s\"", qUtf8Printable(signal.id));
+        }
+        pointers.insert(signal.id, &signal);
+    }
+    return pointers;
 }

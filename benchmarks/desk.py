@@ -12,11 +12,13 @@ TOOLS = Path(__file__).resolve().parents[1] / "build/release/bin"
 
 
 class Desk(World):
+    def __init__(self, **settings):
+        super().__init__(screen_reader=False, **settings)
+
     def run(
         self, name: str, command: Sequence[str], variables: Mapping[str, str] | None = None
     ) -> OwnProcess:
         environment = self.environment | dict(variables or {})
-        del environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"]
         return self._run(name, list(command), environment)
 
 

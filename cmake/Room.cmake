@@ -28,6 +28,7 @@ macro(add_qml_room target)
         URI ${room_uri}
         VERSION 1.0
         STATIC
+        NO_PLUGIN
         RESOURCE_PREFIX /qt/qml
         IMPORT_PATH ${QT_QML_OUTPUT_DIRECTORY}
         DEPENDENCIES ${room_QML_BASES}
@@ -42,8 +43,27 @@ macro(add_qml_room target)
         endif()
     endforeach()
     build_qml_code_together(${target})
-    set_property(GLOBAL APPEND PROPERTY CORVANITE_QML_PLUGINS ${target}plugin)
+    set_property(GLOBAL APPEND PROPERTY CORVANITE_QML_ROOMS ${target})
 endmacro()
+
+# The types of rooms, for a program that shows them: add_qml_modules(<target> <room>...). The function that registers the types of a
+# room is called by nobody, so it is named here for the linker to take it in. Qt does the same with
+# a plugin for each module, each of which it would look at again and again while the window is made.
+function(add_qml_modules target)
+    set(declarations "")
+    set(names "")
+    foreach(room IN LISTS ARGN)
+        get_target_property(uri ${room} QT_QML_MODULE_URI)
+        string(REPLACE "." "_" name "qml_register_types_${uri}")
+        string(APPEND declarations "extern void ${name}();\n")
+        string(APPEND names "    ${name},\n")
+    endforeach()
+    set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT
+        "${declarations}\nextern void (*const volatile ${target}[])();\nvoid (*const volatile ${target}[])() = {\n${names}};\n")
+    add_library(${target} OBJECT ${source})
+    target_link_libraries(${target} PUBLIC ${ARGN})
+endfunction()
 
 # The code that Qt writes for each QML file includes the same large headers, so many such files are
 # compiled as one. It shadows its own parameters; options of a file's own would keep it out of a

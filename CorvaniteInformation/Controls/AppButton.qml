@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import CorvaniteInformation.Controls
 
@@ -47,16 +45,13 @@ Pressable {
         inside: control.ringInside
     }
 
-    // A Loader of 6.4 cannot make a bound component.
-    Repeater {
-        model: control.help !== "" && control.hovered ? 1 : 0
+    readonly property bool helpDue: help !== "" && hovered
+    onHelpDueChanged: if (helpDue)
+        tip.setSource("HelpTip.qml", { button: control });
+    else
+        tip.source = ""
 
-        Item {
-            HelpTip {
-                parent: control
-                text: control.help
-                visible: true
-            }
-        }
+    Loader {
+        id: tip
     }
 }

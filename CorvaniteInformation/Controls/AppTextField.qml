@@ -12,7 +12,8 @@ T.TextField {
     property bool faulty: false
     property real radius: InformationTheme.fieldRadius
 
-    readonly property bool keyboardFocus: activeFocus && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason || focusReason === Qt.ShortcutFocusReason)
+    /// It has the focus and got it from the keyboard.
+    readonly property alias visualFocus: keyboard.visual
 
     implicitHeight: 44
     leftPadding: 13
@@ -31,9 +32,16 @@ T.TextField {
         border.color: field.faulty ? InformationTheme.accent : InformationTheme.control
 
         FocusRing {
-            shown: field.keyboardFocus
+            shown: field.visualFocus
             controlRadius: field.radius
         }
+    }
+
+    KeyboardFocus {
+        id: keyboard
+
+        active: field.activeFocus
+        reason: field.focusReason
     }
 
     AppText {

@@ -10,13 +10,17 @@ AppButton {
     /// The colour of the small square before the label; transparent for none.
     property color square: "transparent"
     readonly property bool hasSquare: square.a > 0
+    /// Stands closer to its edges, where the row would not fit.
+    property bool tight: false
+    /// Its width where it is not tight.
+    readonly property real roomyWidth: Math.ceil(face.width) + (hasSquare ? 20 : 22)
     readonly property color tint: {
         if (selected)
             return InformationTheme.selectedChipInk;
         return hovered || down ? InformationTheme.ink : InformationTheme.ink2;
     }
 
-    implicitWidth: Math.ceil(face.x + face.width + 11)
+    implicitWidth: roomyWidth - (tight ? 6 : 0)
     implicitHeight: 28
     radius: 14
     activeFocusOnTab: selected || activeFocus
@@ -35,7 +39,7 @@ AppButton {
     Row {
         id: face
 
-        x: control.hasSquare ? 9 : 11
+        x: (control.hasSquare ? 9 : 11) - (control.tight ? 3 : 0)
         anchors.verticalCenter: parent.verticalCenter
         spacing: 6
 

@@ -2,12 +2,17 @@ import QtQuick
 import QtQuick.Templates as T
 import CorvaniteInformation.Controls
 
-/// The tooltip under a control.
+/// The tooltip under a button.
 T.ToolTip {
     id: tip
 
-    x: parent ? Math.round((parent.width - width) / 2) : 0
-    y: parent ? parent.height + 8 : 0
+    required property AppButton button
+
+    parent: button
+    text: button.help
+    visible: true
+    x: Math.round((button.width - width) / 2)
+    y: button.height + 8
     margins: 8
     horizontalPadding: 12
     verticalPadding: 6

@@ -7,7 +7,7 @@ LabelButton {
 
     property color restTint: InformationTheme.accent
 
-    implicitHeight: Math.max(28, label.implicitHeight)
+    implicitHeight: Math.max(32, label.implicitHeight)
     spacing: 4
     radius: 2
     textStyle: InformationTheme.small

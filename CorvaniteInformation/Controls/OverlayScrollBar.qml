@@ -1,27 +1,53 @@
 import QtQuick
-import QtQuick.Templates as T
 import CorvaniteInformation.Controls
 
 /// A scroll bar that lies over the content and shows while the content moves or the pointer is on
-/// it. It keeps off the window's edge, where a drag resizes the window.
-T.ScrollBar {
+/// it. It keeps off the window's edge, where a drag resizes the window. Not the toolkit's own, which
+/// would bring a further library into the start of the program.
+MouseArea {
     id: bar
 
-    readonly property bool shown: size < 1 && (active || hovered || pressed)
+    required property PaneScroller scroller
 
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    verticalPadding: 4
-    rightPadding: 6
-    minimumSize: height > 0 ? 32 / height : 0
+    readonly property Flickable pane: scroller.pane
+    readonly property int endSpace: 4
+    readonly property int shortest: 32
+    readonly property real track: height - 2 * endSpace
+    readonly property bool shown: pane.movingVertically || containsMouse || pressed
 
-    Accessible.ignored: true
+    /// Where the pointer holds the thumb.
+    property real grip
 
-    contentItem: Rectangle {
-        implicitWidth: 8
-        implicitHeight: 8
+    function drag(y: real) {
+        scroller.scrollToShare((y - grip - endSpace) / (track - thumb.height));
+    }
+
+    parent: pane
+    x: pane.width - width
+    width: 14
+    height: pane.height
+    visible: scroller.way > 0
+    hoverEnabled: true
+    preventStealing: true
+
+    onPressed: event => {
+        const onThumb = event.y >= thumb.y && event.y < thumb.y + thumb.height;
+        grip = onThumb ? event.y - thumb.y : thumb.height / 2;
+        drag(event.y);
+    }
+    onPositionChanged: event => {
+        if (pressed)
+            drag(event.y);
+    }
+
+    Rectangle {
+        id: thumb
+
+        y: bar.endSpace + (bar.track - height) * bar.scroller.share
+        width: 8
+        height: Math.min(bar.track - 1, Math.max(bar.shortest, bar.track * bar.pane.height / (bar.scroller.way + bar.pane.height)))
         radius: 4
-        color: bar.hovered || bar.pressed ? InformationTheme.scrollThumbHover : InformationTheme.scrollThumb
+        color: bar.containsMouse || bar.pressed ? InformationTheme.scrollThumbHover : InformationTheme.scrollThumb
         opacity: bar.shown ? 1 : 0
 
         Behavior on opacity {

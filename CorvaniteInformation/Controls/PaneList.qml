@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import CorvaniteInformation.Controls
 
 /// A list that scrolls on its own, by pointer and by the keys that turn pages, its rows made as they
@@ -7,10 +6,11 @@ import CorvaniteInformation.Controls
 ListView {
     id: list
 
-    /// How far beyond its edges the list holds rows: far enough for the Tab key and a screen reader to
-    /// go on. They are made at once. Rows that a cache buffer makes one by one would stand in no place
-    /// until it is their turn, and are asked for by their old places after the list has shrunk.
-    property int reach: 2400
+    /// How far beyond its edges the list holds rows: once they are wanted, far enough for the Tab key
+    /// and a screen reader to go on. They are made at once. Rows that a cache buffer makes one by one
+    /// would stand in no place until it is their turn, and are asked for by their old places after the
+    /// list has shrunk.
+    property int reach: RowReach.far ? 2400 : 0
 
     readonly property alias scroller: scroller
 
@@ -25,7 +25,8 @@ ListView {
 
     Keys.forwardTo: [scroller]
 
-    T.ScrollBar.vertical: OverlayScrollBar {}
+    // For the very key that wants them.
+    onReachChanged: forceLayout()
 
     ReadingOrder {
         items: list.contentItem
@@ -35,6 +36,10 @@ ListView {
         id: scroller
 
         pane: list
+    }
+
+    OverlayScrollBar {
+        scroller: scroller
     }
 
     /// Gives the keyboard's focus to a row, which comes into sight from however far. Whether there is

@@ -10,6 +10,9 @@ Item {
 
     readonly property real firstY: pane.originY - pane.topMargin
     readonly property real lastY: Math.max(firstY, pane.originY + pane.contentHeight + pane.bottomMargin - pane.height)
+    /// How far the pane scrolls, and the share of that above what it shows.
+    readonly property real way: lastY - firstY
+    readonly property real share: way > 0 ? (pane.contentY - firstY) / way : 0
     readonly property Item focused: pane.Window.activeFocusItem
 
     /// The pane shows its beginning.
@@ -58,6 +61,10 @@ Item {
 
     function scrollToTop() {
         scrollTo(firstY);
+    }
+
+    function scrollToShare(share: real) {
+        scrollTo(firstY + share * way);
     }
 
     function scrollTo(y: real) {

@@ -8,6 +8,12 @@ bool isFromKeyboard(Qt::FocusReason reason)
            reason == Qt::ShortcutFocusReason;
 }
 
+// With a modifier a key is a shortcut of whoever holds the control.
+bool isPlain(const QKeyEvent& event)
+{
+    return !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
 bool isEnter(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -34,7 +40,9 @@ void Pressable::hoverLeaveEvent(QHoverEvent* /*event*/)
 
 void Pressable::mousePressEvent(QMouseEvent* /*event*/)
 {
-    forceActiveFocus(Qt::MouseFocusReason);
+    if (m_activeFocusOnPress) {
+        forceActiveFocus(Qt::MouseFocusReason);
+    }
     m_down = true;
 }
 
@@ -63,7 +71,7 @@ void Pressable::mouseUngrabEvent()
 
 void Pressable::keyPressEvent(QKeyEvent* event)
 {
-    if (event->isAutoRepeat()) {
+    if (event->isAutoRepeat() || !isPlain(*event)) {
         event->ignore();
     } else if (event->key() == Qt::Key_Space) {
         m_down = true;
@@ -86,15 +94,18 @@ void Pressable::keyReleaseEvent(QKeyEvent* event)
 
 void Pressable::focusInEvent(QFocusEvent* event)
 {
-    // Coming back to the window does not tell how the focus was got.
-    if (event->reason() != Qt::ActiveWindowFocusReason) {
+    // It tells screen readers.
+    QQuickItem::focusInEvent(event);
+    // Coming back to the window, or being enabled again, does not tell how the focus was got.
+    if (event->reason() != Qt::ActiveWindowFocusReason && !m_disabled) {
         m_focusFromKeyboard = isFromKeyboard(event->reason());
     }
     m_visualFocus = m_focusFromKeyboard;
 }
 
-void Pressable::focusOutEvent(QFocusEvent* /*event*/)
+void Pressable::focusOutEvent(QFocusEvent* event)
 {
+    QQuickItem::focusOutEvent(event);
     m_down = false;
     m_visualFocus = false;
 }
@@ -102,6 +113,9 @@ void Pressable::focusOutEvent(QFocusEvent* /*event*/)
 void Pressable::itemChange(ItemChange change, const ItemChangeData& data)
 {
     QQuickItem::itemChange(change, data);
+    if (change == ItemEnabledHasChanged) {
+        m_disabled = !data.boolValue;
+    }
     const bool gone =
         (change == ItemEnabledHasChanged || change == ItemVisibleHasChanged) && !data.boolValue;
     if (gone) {

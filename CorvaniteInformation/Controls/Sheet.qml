@@ -5,12 +5,20 @@ import QtQuick.Templates as T
 import CorvaniteInformation.Controls
 
 /// A modal frame over the window, closed by Escape. It holds the Tab key inside, and gives the focus
-/// back to where it was.
+/// back to where it was, or to `home`.
 T.Dialog {
     id: sheet
 
-    property Item opener: null
-    property bool openedByKeyboard: false
+    /// What takes the focus when the sheet has closed and its opener is no longer to be seen.
+    required property Item home
+    /// Of the points of the window those that the sheet blocks: an object with a function
+    /// `contains(point): bool`. Without one it blocks all.
+    property QtObject blocked: null
+    readonly property bool openedByKeyboard: opener.byKeyboard
+
+    readonly property FocusReturn opener: FocusReturn {
+        home: sheet.home
+    }
 
     parent: T.Overlay.overlay
     anchors.centerIn: parent
@@ -22,13 +30,17 @@ T.Dialog {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
 
     onAboutToShow: {
-        opener = parent.Window.activeFocusItem;
-        openedByKeyboard = (opener as Pressable)?.visualFocus ?? false;
+        const focused = parent.Window.activeFocusItem;
+        opener.remember(focused);
+        opener.byKeyboard = opener.byKeyboard || ((focused as AppTextField)?.visualFocus ?? false);
     }
-    onClosed: opener?.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason)
+    onClosed: opener.giveBack()
+    // Its content says what it is; the frame would say it again.
+    Component.onCompleted: contentItem.parent.Accessible.ignored = true
 
     T.Overlay.modal: Rectangle {
         color: InformationTheme.scrim
+        containmentMask: sheet.blocked
 
         Behavior on opacity {
             NumberAnimation {

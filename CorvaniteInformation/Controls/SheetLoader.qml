@@ -1,6 +1,7 @@
 import QtQuick
 
-/// Makes a sheet when it is asked for, and drops it when it has closed.
+/// Makes a Sheet when it is asked for, and drops it when it has closed. The type is not named: it
+/// would be loaded before the window shows.
 Loader {
     id: loader
 
@@ -10,7 +11,7 @@ Loader {
     }
 
     Connections {
-        target: loader.item as Sheet
+        target: loader.item
 
         function onClosed() {
             loader.source = "";

@@ -23,7 +23,7 @@ AppButton {
     readonly property real textHeight: label.height
 
     implicitWidth: Math.max(16, Math.ceil(metrics.advanceWidth)) + arrowSpace
-    implicitHeight: Math.max(28, textHeight)
+    implicitHeight: Math.max(32, textHeight)
     radius: 2
     enabled: link.address !== ""
 

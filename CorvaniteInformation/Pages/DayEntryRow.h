@@ -18,7 +18,6 @@ struct DayEntryRow
     Q_PROPERTY(bool resolved MEMBER resolved CONSTANT FINAL)
     Q_PROPERTY(QColor laneColor MEMBER laneColor CONSTANT FINAL)
     Q_PROPERTY(QString laneName MEMBER laneName CONSTANT FINAL)
-    Q_PROPERTY(QString laneTrail READ laneTrail CONSTANT FINAL)
 
 public:
     /// @param number the running number, from 1
@@ -33,9 +32,6 @@ public:
     bool resolved = false;
     QColor laneColor;
     QString laneName;
-
-    /// The lane's name with the dot that joins it to the title.
-    QString laneTrail() const { return u" · "_qs + laneName; }
 
     friend bool operator==(const DayEntryRow&, const DayEntryRow&) = default;
 };

@@ -2,13 +2,34 @@
 
 #include "RunningNumber.h"
 
+namespace {
+
+bool isLatin(QChar character)
+{
+    return character.script() == QChar::Script_Latin;
+}
+
+// A line of the list is short, and a hyphen in a Latin word no place to break it.
+QString withWholeWords(QString text)
+{
+    constexpr QChar nonBreakingHyphen(0x2011);
+    for (qsizetype i = 1; i + 1 < text.size(); ++i) {
+        if (text.at(i) == u'-' && isLatin(text.at(i - 1)) && isLatin(text.at(i + 1))) {
+            text[i] = nonBreakingHyphen;
+        }
+    }
+    return text;
+}
+
+} // namespace
+
 RailLineRow RailLineRow::from(const InformationSignal& signal, bool seen, int position)
 {
     RailLineRow row;
     row.signalId = signal.id;
     row.position = position;
     row.number = runningNumber(position + 1);
-    row.title = signal.title;
+    row.title = withWholeWords(signal.title);
     row.badge = seen ? u"已看过"_qs : u"新"_qs;
     row.seen = seen;
     row.name = u"打开脉络："_qs + signal.title;

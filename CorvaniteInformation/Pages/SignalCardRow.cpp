@@ -53,7 +53,9 @@ QString description(const SignalCardRow& row)
     if (row.seen) {
         parts.append(u"已看过"_qs);
     }
-    return parts.join(u'，');
+    return QStringList{parts.join(u'，'), u"为什么值得看："_qs + row.why,
+                       u"最大限制："_qs + row.caveat}
+        .join(u'\n');
 }
 
 } // namespace
@@ -80,9 +82,11 @@ SignalCardRow SignalCardRow::from(const InformationSignal& signal, Standing stan
     row.caveat = signal.caveat;
     row.sourceLine = ::sourceLine(signal);
     row.originalAddress = OpenableAddress::from(signal.originalURL);
-    row.originalName = u"看原文："_qs + signal.title;
+    row.originalName =
+        row.originalAddress.isEmpty() ? row.sourceLine : u"看原文："_qs + signal.title;
     row.hasChange = signal.updateSummary.has_value();
     row.change = signal.updateSummary.value_or(QString());
+    row.changeOpen = row.hasChange && standing.changeOpen;
     row.kept = standing.kept;
     row.keepName =
         (standing.kept ? u"从工作台移除并停止更新："_qs : u"收下并持续更新："_qs) + signal.title;

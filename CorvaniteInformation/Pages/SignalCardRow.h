@@ -32,6 +32,7 @@ struct SignalCardRow
     Q_PROPERTY(QString originalName MEMBER originalName CONSTANT FINAL)
     Q_PROPERTY(bool hasChange MEMBER hasChange CONSTANT FINAL)
     Q_PROPERTY(QString change MEMBER change CONSTANT FINAL)
+    Q_PROPERTY(bool changeOpen MEMBER changeOpen CONSTANT FINAL)
     Q_PROPERTY(bool kept MEMBER kept CONSTANT FINAL)
     Q_PROPERTY(QString keepName MEMBER keepName CONSTANT FINAL)
     Q_PROPERTY(QString reduceName MEMBER reduceName CONSTANT FINAL)
@@ -43,6 +44,8 @@ public:
     {
         bool kept = false;
         bool seen = false;
+        /// What changed is unfolded.
+        bool changeOpen = false;
     };
 
     /// @param now seconds since 1970-01-01T00:00:00Z
@@ -66,14 +69,16 @@ public:
     QString caveat;
     QString sourceLine;
     QString originalAddress;
-    /// The source line, the keep button and the reduce button for a screen reader.
+    /// The source line, the keep button and the reduce button for a screen reader. A source line
+    /// that leads nowhere is named as it reads.
     QString originalName;
     bool hasChange = false;
     QString change;
+    bool changeOpen = false;
     bool kept = false;
     QString keepName;
     QString reduceName;
-    /// The card's state for a screen reader.
+    /// The card's state, its why and its limit for a screen reader, a line each.
     QString description;
 
     const QString& key() const { return signalId; }

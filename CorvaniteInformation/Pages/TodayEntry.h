@@ -21,6 +21,7 @@ struct TodayEntry
     Q_PROPERTY(bool isOfRail READ isOfRail CONSTANT FINAL)
     Q_PROPERTY(SignalCardRow card MEMBER card CONSTANT FINAL)
     Q_PROPERTY(RailLineRow rail MEMBER rail CONSTANT FINAL)
+    Q_PROPERTY(int foldingPosition MEMBER foldingPosition CONSTANT FINAL)
 
 public:
     enum class Kind {
@@ -38,6 +39,8 @@ public:
     SignalCardRow card;
     /// With `Kind::RailLine`.
     RailLineRow rail;
+    /// From 0 among the cards that the disclosure opens and closes; -1 for what always shows.
+    int foldingPosition = -1;
 
     bool isIntro() const { return kind == Kind::Intro; }
     bool isCard() const { return kind == Kind::Card; }

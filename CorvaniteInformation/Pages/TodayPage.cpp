@@ -33,37 +33,53 @@ TodayEntry entryOf(TodayEntry::Kind kind)
     return entry;
 }
 
-using SeenTargets = QSet<QString>;
-
-SeenTargets seenTargets(const InformationModel& workbench)
+QSet<QString> seenTargets(const InformationModel& workbench)
 {
     const auto& targets = workbench.workspace().seenTargets;
     return {targets.cbegin(), targets.cend()};
 }
 
+/// What the reader has done with signals.
+struct Standings
+{
+    QSet<QString> seenTargets;
+    QSet<QString> openChanges;
+};
+
 QList<TodayEntry> cards(const InformationModel& workbench, const QList<InformationSignal>& signals,
-                        const SeenTargets& seen)
+                        const Standings& standings)
 {
     QList<TodayEntry> cards;
     cards.reserve(signals.size());
     for (const auto& signal : signals) {
         TodayEntry entry = entryOf(TodayEntry::Kind::Card);
-        entry.card = SignalCardRow::from(
-            signal,
-            {.kept = workbench.isKept(signal), .seen = seen.contains(signal.followTarget.id)},
-            workbench.now());
+        entry.card =
+            SignalCardRow::from(signal,
+                                {.kept = workbench.isKept(signal),
+                                 .seen = standings.seenTargets.contains(signal.followTarget.id),
+                                 .changeOpen = standings.openChanges.contains(signal.id)},
+                                workbench.now());
         cards.append(entry);
     }
     return cards;
 }
 
-QList<TodayEntry> rail(const QList<InformationSignal>& signals, const SeenTargets& seen)
+QList<TodayEntry> folding(QList<TodayEntry> cards)
+{
+    for (int position = 0; auto& card : cards) {
+        card.foldingPosition = position++;
+    }
+    return cards;
+}
+
+QList<TodayEntry> rail(const QList<InformationSignal>& signals, const QSet<QString>& seenTargets)
 {
     QList<TodayEntry> rail{entryOf(TodayEntry::Kind::RailHeading)};
     rail.reserve(signals.size() + 1);
     for (int position = 0; const auto& signal : signals) {
         TodayEntry line = entryOf(TodayEntry::Kind::RailLine);
-        line.rail = RailLineRow::from(signal, seen.contains(signal.followTarget.id), position++);
+        line.rail =
+            RailLineRow::from(signal, seenTargets.contains(signal.followTarget.id), position++);
         rail.append(line);
     }
     return rail;
@@ -97,6 +113,14 @@ void TodayPage::selectLane(const QString& lane)
     }
 }
 
+void TodayPage::toggleChange(const QString& signalId)
+{
+    if (!m_openChanges.remove(signalId)) {
+        m_openChanges.insert(signalId);
+    }
+    refresh();
+}
+
 void TodayPage::follow(const InformationModel& workbench)
 {
     connect(&workbench, &InformationModel::contentChanged, this, &TodayPage::refresh);
@@ -125,18 +149,19 @@ void TodayPage::show(const InformationModel& workbench)
     texts.receiptRows = dataReceipt(filtered.size(), focused.size());
     texts.railCount = static_cast<int>(filtered.size());
     texts.empty = visibleCount == 0;
+    texts.laneEmpty = filtered.isEmpty() && !texts.empty;
     m_texts = std::move(texts);
 
-    const auto seen = seenTargets(workbench);
+    const Standings standings{.seenTargets = seenTargets(workbench), .openChanges = m_openChanges};
     QList<TodayEntry> column{entryOf(TodayEntry::Kind::Intro)};
-    column += cards(workbench, focused, seen);
+    column += cards(workbench, focused, standings);
     if (!remaining.isEmpty()) {
         column.append(entryOf(TodayEntry::Kind::Disclosure));
     }
     if (m_showingRemaining) {
-        column += cards(workbench, remaining, seen);
+        column += folding(cards(workbench, remaining, standings));
     }
     m_lanes.setRows(laneChips(workbench));
     m_entries.setRows(column);
-    m_railEntries.setRows(rail(filtered, seen));
+    m_railEntries.setRows(rail(filtered, standings.seenTargets));
 }

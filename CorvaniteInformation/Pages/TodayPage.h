@@ -8,6 +8,7 @@
 
 #include <QList>
 #include <QProperty>
+#include <QSet>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
@@ -29,6 +30,8 @@ class TodayPage : public WorkbenchPage
     Q_PROPERTY(QString preferenceStatus READ preferenceStatus NOTIFY textsChanged FINAL)
     /// Nothing is left of today's selection.
     Q_PROPERTY(bool empty READ empty NOTIFY textsChanged FINAL)
+    /// Something is left, but nothing in the chosen lane.
+    Q_PROPERTY(bool laneEmpty READ laneEmpty NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString remainingTitle READ remainingTitle NOTIFY textsChanged FINAL)
     Q_PROPERTY(int railCount READ railCount NOTIFY textsChanged FINAL)
     Q_PROPERTY(QList<LabelledTextRow> receiptRows READ receiptRows NOTIFY textsChanged FINAL)
@@ -53,6 +56,7 @@ public:
     bool adjusted() const { return !m_texts.value().preferenceStatus.isEmpty(); }
     const QString& preferenceStatus() const { return m_texts.value().preferenceStatus; }
     bool empty() const { return m_texts.value().empty; }
+    bool laneEmpty() const { return m_texts.value().laneEmpty; }
     const QString& remainingTitle() const { return m_texts.value().remainingTitle; }
     int railCount() const { return m_texts.value().railCount; }
     const QList<LabelledTextRow>& receiptRows() const { return m_texts.value().receiptRows; }
@@ -64,6 +68,8 @@ public:
 
     /// @param lane the lane's token; empty for all lanes
     Q_INVOKABLE void selectLane(const QString& lane);
+    /// Unfolds or folds what changed with the signal.
+    Q_INVOKABLE void toggleChange(const QString& signalId);
 
 Q_SIGNALS:
     void showingRemainingChanged();
@@ -83,11 +89,14 @@ private:
         QList<LabelledTextRow> receiptRows;
         int railCount = 0;
         bool empty = false;
+        bool laneEmpty = false;
 
         friend bool operator==(const Texts&, const Texts&) = default;
     };
 
     bool m_showingRemaining = false;
+    /// The ids of the signals whose change is unfolded.
+    QSet<QString> m_openChanges;
     Q_OBJECT_BINDABLE_PROPERTY(TodayPage, TodayPage::Texts, m_texts, &TodayPage::textsChanged)
     RowListModel<LaneChipRow> m_lanes;
     RowListModel<TodayEntry> m_entries;

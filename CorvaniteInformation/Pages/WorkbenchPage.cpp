@@ -16,9 +16,22 @@ void WorkbenchPage::setWorkbench(InformationModel* workbench)
     refresh();
 }
 
+void WorkbenchPage::setShown(bool shown)
+{
+    if (m_shown == shown) {
+        return;
+    }
+    m_shown = shown;
+    Q_EMIT shownChanged();
+    if (m_stale) {
+        refresh();
+    }
+}
+
 void WorkbenchPage::refresh()
 {
-    if (m_workbench) {
+    m_stale = !m_shown;
+    if (m_workbench && m_shown) {
         show(*m_workbench);
     }
 }

@@ -15,6 +15,9 @@ class WorkbenchPage : public QObject
 
     Q_PROPERTY(InformationModel* workbench READ workbench WRITE setWorkbench NOTIFY workbenchChanged
                    REQUIRED FINAL)
+    /// Whether anyone sees the page. While nobody does, nothing is worked out; what was missed is
+    /// made up for when it shows again.
+    Q_PROPERTY(bool shown READ shown WRITE setShown NOTIFY shownChanged FINAL)
 
 public:
     using QObject::QObject;
@@ -22,11 +25,15 @@ public:
     InformationModel* workbench() const { return m_workbench; }
     void setWorkbench(InformationModel* workbench);
 
+    bool shown() const { return m_shown; }
+    void setShown(bool shown);
+
     /// Works everything out anew: the model has changed, or time has passed.
     Q_INVOKABLE void refresh();
 
 Q_SIGNALS:
     void workbenchChanged();
+    void shownChanged();
 
 protected:
     /// Connects `refresh` to the changes that the page shows.
@@ -35,4 +42,6 @@ protected:
 
 private:
     QPointer<InformationModel> m_workbench;
+    bool m_shown = true;
+    bool m_stale = false;
 };

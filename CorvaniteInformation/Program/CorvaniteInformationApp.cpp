@@ -1,5 +1,4 @@
 #include "Program.h"
-#include "QmlModules.h"
 
 int main(int argc, char* argv[])
 {

@@ -3,9 +3,11 @@
 #include "AppearancePortal.h"
 #include "CommandLine.h"
 #include "ExportKept.h"
+#include "FirstSize.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
+#include "ScreenReaderStatus.h"
 #include "TerminationSignals.h"
 #include "WindowActivation.h"
 
@@ -18,6 +20,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QScreen>
 
 #include <cstdio>
 #include <memory>
@@ -77,6 +80,9 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
         return tell(exportKept(*keptExport, environment));
     }
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    // Else a screen reader that starts later finds nothing: Qt 6.4 looks for one at the start
+    // alone.
+    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const QGuiApplication application(argc, argv);
     introduce(version);
     chooseTextRendering(application.devicePixelRatio());
@@ -85,6 +91,7 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     QObject::connect(&appearance, &AppearancePortal::colorSchemeChanged, [](auto colorScheme) {
         QGuiApplication::setPalette(schemePalette(colorScheme));
     });
+    const ScreenReaderStatus screenReader(QDBusConnection::sessionBus());
 
     const auto site = ProductSite::fromOrigin(siteOrigin);
     if (!site) {
@@ -110,15 +117,21 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
         &engine,
         QUrl(
             u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
+    const QSize size = FirstSize::within(QGuiApplication::primaryScreen()->availableSize());
     const std::unique_ptr<QObject> root(
         view.createWithInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
-                                          {u"reducedMotion"_qs, appearance.reducedMotion()}}));
+                                          {u"width"_qs, size.width()},
+                                          {u"height"_qs, size.height()},
+                                          {u"reducedMotion"_qs, appearance.reducedMotion()},
+                                          {u"readAloud"_qs, screenReader.present()}}));
     auto* const window = qobject_cast<QWindow*>(root.get());
     if (!window) {
         qFatal("The window cannot be made: %s", qUtf8Printable(view.errorString()));
     }
     QObject::connect(&appearance, &AppearancePortal::reducedMotionChanged, window,
                      [window](bool reduced) { window->setProperty("reducedMotion", reduced); });
+    QObject::connect(&screenReader, &ScreenReaderStatus::presentChanged, window,
+                     [window](bool present) { window->setProperty("readAloud", present); });
     QObject::connect(
         &parts.instance(), &ProgramInstance::activationRequested, window,
         [window](const QByteArray& token) { WindowActivation::bringUp(*window, token); });

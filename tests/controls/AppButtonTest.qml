@@ -1,16 +1,15 @@
 import QtQuick
-import QtTest
 import CorvaniteInformation.Controls
-import CorvaniteInformation.Screens.Workbench
 
-TestCase {
-    id: test
-
+ButtonTestCase {
     name: "AppButtonTest"
-    when: windowShown
-    width: 400
-    height: 300
-    visible: true
+    buttons: [
+        {tag: "citrine", component: citrine, role: Accessible.Button, height: 38, label: "收下"},
+        {tag: "quiet", component: quiet, role: Accessible.Button, height: 36, label: "这类少看"},
+        {tag: "icon", component: icon, role: Accessible.Button, height: 32, label: "关闭回执"},
+        {tag: "link", component: link, role: Accessible.Link, height: 32, label: "更多原文"},
+        {tag: "chip", component: chip, role: Accessible.RadioButton, height: 28, label: "全部 22"}
+    ]
 
     Component {
         id: citrine
@@ -23,13 +22,6 @@ TestCase {
         id: quiet
         QuietButton {
             text: "这类少看"
-        }
-    }
-
-    Component {
-        id: sync
-        SyncButton {
-            running: false
         }
     }
 
@@ -57,94 +49,11 @@ TestCase {
     }
 
     Component {
-        id: segment
-        SurfaceSegment {
-            text: "今天"
-            selected: true
-        }
-    }
-
-    Component {
         id: named
         QuietButton {
             text: "这类少看"
             Accessible.name: "这类少看：产品雷达"
         }
-    }
-
-    SignalSpy {
-        id: clicks
-        signalName: "clicked"
-    }
-
-    Item {
-        id: elsewhere
-    }
-
-    function made(component: Component, properties: var): AppButton {
-        const button = createTemporaryObject(component, test, properties ?? {});
-        clicks.target = button;
-        clicks.clear();
-        return button;
-    }
-
-    function every(): var {
-        return [
-            {tag: "citrine", component: citrine, role: Accessible.Button, height: 38, label: "收下"},
-            {tag: "quiet", component: quiet, role: Accessible.Button, height: 36, label: "这类少看"},
-            {tag: "sync", component: sync, role: Accessible.Button, height: 34, label: "同步站点"},
-            {tag: "icon", component: icon, role: Accessible.Button, height: 32, label: "关闭回执"},
-            {tag: "link", component: link, role: Accessible.Link, height: 28, label: "更多原文"},
-            {tag: "chip", component: chip, role: Accessible.RadioButton, height: 28, label: "全部 22"},
-            {tag: "segment", component: segment, role: Accessible.PageTab, height: 30, label: "今天"}
-        ];
-    }
-
-    function test_nameRoleAndHeight_data() {
-        return every();
-    }
-
-    function test_nameRoleAndHeight(row) {
-        const button = made(row.component);
-        compare(button.Accessible.role, row.role);
-        screenReader.start();
-        compare(button.Accessible.role, row.role);
-        compare(button.Accessible.name, row.label);
-        compare(button.height, row.height);
-    }
-
-    function test_everyWayOfPressing_data() {
-        return every();
-    }
-
-    function test_everyWayOfPressing(row) {
-        const button = made(row.component);
-        mouseClick(button);
-        compare(clicks.count, 1);
-        button.Accessible.pressAction();
-        compare(clicks.count, 2);
-        button.forceActiveFocus();
-        keyClick(Qt.Key_Space);
-        compare(clicks.count, 3);
-        keyClick(Qt.Key_Return);
-        compare(clicks.count, 4);
-        keyClick(Qt.Key_Enter);
-        compare(clicks.count, 5);
-    }
-
-    function test_noWayOfPressingWhileDisabled_data() {
-        return every();
-    }
-
-    function test_noWayOfPressingWhileDisabled(row) {
-        const button = made(row.component);
-        button.enabled = false;
-        mouseClick(button);
-        button.Accessible.pressAction();
-        button.forceActiveFocus();
-        keyClick(Qt.Key_Space);
-        keyClick(Qt.Key_Return);
-        compare(clicks.count, 0);
     }
 
     function test_aPressCanBeTakenBack() {
@@ -176,26 +85,44 @@ TestCase {
         verify(!button.hovered);
     }
 
-    function test_theRingShowsForTheKeyboardAlone_data() {
-        return every();
-    }
-
-    function test_theRingShowsForTheKeyboardAlone(row) {
-        const button = made(row.component);
-        const ring = findRing(button);
-        verify(!ring.visible);
-        button.forceActiveFocus(Qt.MouseFocusReason);
-        verify(!ring.visible);
-        button.focus = false;
+    function test_theRingComesBackWithTheButton() {
+        const button = made(quiet);
         button.forceActiveFocus(Qt.TabFocusReason);
-        verify(ring.visible);
-        compare(ring.width, button.width + 8);
-        compare(ring.radius, button.radius + 4);
-        verify(Qt.colorEqual(ring.border.color, InformationTheme.ring));
+        button.enabled = false;
+        verify(!button.visualFocus);
+        button.enabled = true;
+        verify(button.activeFocus);
+        verify(button.visualFocus);
+        elsewhere.forceActiveFocus();
+        button.forceActiveFocus(Qt.MouseFocusReason);
+        verify(!button.visualFocus);
     }
 
-    function findRing(button: AppButton): FocusRing {
-        return Array.from(button.children).find(child => child instanceof FocusRing);
+    function test_aPressTakesTheFocusUnlessItIsNotTo() {
+        const button = made(quiet);
+        elsewhere.forceActiveFocus();
+        button.activeFocusOnPress = false;
+        mouseClick(button);
+        compare(clicks.count, 1);
+        verify(!button.activeFocus);
+        button.activeFocusOnPress = true;
+        mouseClick(button);
+        verify(button.activeFocus);
+    }
+
+    function test_aKeyWithAModifierIsNoPress_data() {
+        return [
+            {tag: "Ctrl+Enter", key: Qt.Key_Return, modifier: Qt.ControlModifier},
+            {tag: "Alt+Space", key: Qt.Key_Space, modifier: Qt.AltModifier},
+            {tag: "Meta+Space", key: Qt.Key_Space, modifier: Qt.MetaModifier}
+        ];
+    }
+
+    function test_aKeyWithAModifierIsNoPress(row) {
+        const button = made(quiet);
+        button.forceActiveFocus();
+        keyClick(row.key, row.modifier);
+        compare(clicks.count, 0);
     }
 
     function test_iconAndLabelStandSideBySide() {
@@ -218,27 +145,6 @@ TestCase {
         const button = made(quiet, {help: "获取 Corvanite Information 新版本 1.2.3"});
         compare(button.Accessible.description, "获取 Corvanite Information 新版本 1.2.3");
         compare(button.Accessible.name, "这类少看");
-    }
-
-    function test_syncWhileRunning() {
-        const button = made(sync, {running: true});
-        compare(button.text, "同步中");
-        compare(button.Accessible.name, "同步中");
-        compare(button.iconPath, IconPaths.syncing);
-        verify(!button.enabled);
-        button.running = false;
-        compare(button.text, "同步站点");
-        compare(button.iconPath, IconPaths.sync);
-        compare(button.iconRotation, 0);
-        verify(button.enabled);
-    }
-
-    function test_theSyncIconTurnsUnlessMotionIsReduced() {
-        const button = made(sync, {running: true});
-        tryVerify(() => button.iconRotation > 0);
-        InformationTheme.reducedMotion = true;
-        compare(button.iconRotation, 0);
-        InformationTheme.reducedMotion = false;
     }
 
     function test_chipStates() {

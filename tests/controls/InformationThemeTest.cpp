@@ -6,11 +6,8 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QTest>
-#include <QtQml/qqmlextensionplugin.h>
 
 #include <algorithm>
-
-Q_IMPORT_QML_PLUGIN(CorvaniteInformation_ControlsPlugin)
 
 using ColorScheme = AppearancePortal::ColorScheme;
 
@@ -84,6 +81,18 @@ private Q_SLOTS:
         QGuiApplication::setPalette(palette);
         for (const char* const role : {"ink", "ink2", "ink3"}) {
             QCOMPARE(color(role), QColor(0x000030));
+        }
+    }
+
+    void theStrongHairlineIsStronger()
+    {
+        for (const auto scheme : {ColorScheme::Light, ColorScheme::Dark}) {
+            QGuiApplication::setPalette(schemePalette(scheme));
+            const auto onCanvas = [this](const char* role) {
+                return ColorContrast::ratio(color(role), color("canvas"));
+            };
+            QVERIFY(onCanvas("hair") > 1.1);
+            QVERIFY(onCanvas("hairStrong") > 1.2 * onCanvas("hair"));
         }
     }
 

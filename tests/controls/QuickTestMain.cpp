@@ -1,5 +1,3 @@
-#include "QmlModules.h"
-
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QQmlContext>

@@ -18,15 +18,38 @@ TestCase {
         text: "打开"
     }
 
+    MouseArea {
+        id: below
+        y: 300
+        width: 600
+        height: 100
+    }
+
+    SignalSpy {
+        id: pressesBelow
+        target: below
+        signalName: "clicked"
+    }
+
     QuietButton {
         id: neighbour
         y: 100
         text: "旁边"
     }
 
+    Item {
+        id: home
+    }
+
     Sheet {
         id: sheet
 
+        home: home
+        blocked: QtObject {
+            function contains(at: point): bool {
+                return at.y < 300;
+            }
+        }
         title: "信息脉络"
         visible: test.wanted
         onAboutToHide: test.wanted = false
@@ -93,8 +116,34 @@ TestCase {
     function test_aPressOutsideChangesNothing() {
         open();
         mouseClick(test, 5, 5);
-        mouseClick(test, 5, 395);
+        mouseClick(neighbour);
         verify(sheet.opened);
+        verify(!neighbour.activeFocus);
+    }
+
+    function test_aPressOnWhatItDoesNotBlockGoesThrough() {
+        open();
+        pressesBelow.clear();
+        mouseClick(test, 5, 395);
+        compare(pressesBelow.count, 1);
+        verify(sheet.opened);
+        verify(first.activeFocus);
+    }
+
+    function test_anOpenerThatIsHiddenGivesTheFocusToTheHome() {
+        opener.forceActiveFocus(Qt.TabFocusReason);
+        open();
+        opener.visible = false;
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !sheet.visible);
+        verify(home.activeFocus);
+        opener.visible = true;
+    }
+
+    function test_aScreenReaderMeetsNoFrameAroundTheContent() {
+        screenReader.start();
+        open();
+        verify(sheet.contentItem.parent.Accessible.ignored);
     }
 
     function test_opensAgainAfterEscape() {

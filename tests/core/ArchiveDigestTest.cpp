@@ -1,27 +1,8 @@
 #include "ArchiveDigest.h"
+#include "SampleSignal.h"
 #include "Subject.h"
 
 #include <QTest>
-
-namespace {
-
-InformationSignal signalWithId(const QString& id)
-{
-    InformationSignal signal{};
-    signal.id = id;
-    return signal;
-}
-
-QStringList idsOf(const QList<InformationSignal>& signals)
-{
-    QStringList ids;
-    for (const InformationSignal& signal : signals) {
-        ids.append(signal.id);
-    }
-    return ids;
-}
-
-} // namespace
 
 class ArchiveDigestTest : public QObject
 {
@@ -89,8 +70,8 @@ private Q_SLOTS:
         QFETCH(QStringList, ids);
         QFETCH(QStringList, expected);
 
-        const QList<InformationSignal> signals{signalWithId(u"a"_qs), signalWithId(u"b"_qs),
-                                               signalWithId(u"c"_qs)};
+        const QList<InformationSignal> signals{sampleSignal(u"a"_qs), sampleSignal(u"b"_qs),
+                                               sampleSignal(u"c"_qs)};
         QHash<QString, InformationSignal> index;
         for (const InformationSignal& signal : signals) {
             index.insert(signal.id, signal);

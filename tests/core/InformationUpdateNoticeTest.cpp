@@ -1,7 +1,7 @@
 #include "InformationUpdateNotice.h"
+#include "FormatExamples.h"
 #include "Subject.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -55,10 +55,8 @@ class InformationUpdateNoticeTest : public QObject
 private Q_SLOTS:
     void theExampleOfTheFormat()
     {
-        QFile example(QStringLiteral(FORMAT_EXAMPLES "/app-version.json"));
-        QVERIFY(example.open(QIODevice::ReadOnly));
-
-        const auto notice = InformationUpdateNotice::parse(example.readAll(), allowedHost);
+        const auto notice =
+            InformationUpdateNotice::parse(formatExample(u"app-version.json"_qs), allowedHost);
         QVERIFY(notice.has_value());
         QCOMPARE(
             *notice,

@@ -1,7 +1,7 @@
 #include "InformationWorkspaceCoding.h"
+#include "FormatExamples.h"
 #include "Subject.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
@@ -71,9 +71,7 @@ class InformationWorkspaceCodingTest : public QObject
 private Q_SLOTS:
     void theDocumentedExampleReadsAndIsWrittenTheSame()
     {
-        QFile file(QStringLiteral(FORMAT_EXAMPLES "/workspace-v1.json"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray example = file.readAll();
+        const QByteArray example = formatExample(u"workspace-v1.json"_qs);
 
         const auto workspace = decode(example);
         QVERIFY(workspace);

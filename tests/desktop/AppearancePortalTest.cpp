@@ -1,9 +1,9 @@
 #include "AppearancePortal.h"
+#include "SessionBus.h"
 #include "Subject.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -72,24 +72,7 @@ class AppearancePortalTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        qDBusRegisterMetaType<Settings>();
-        m_daemon.start(u"dbus-daemon"_qs, {u"--session"_qs, u"--nofork"_qs, u"--print-address"_qs,
-                                           u"--address=unix:tmpdir=/tmp"_qs});
-        QVERIFY(m_daemon.waitForReadyRead());
-        m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
-        QVERIFY(bus(u"desktop"_qs).isConnected());
-        QVERIFY(bus(u"program"_qs).isConnected());
-    }
-
-    void cleanupTestCase()
-    {
-        QDBusConnection::disconnectFromBus(u"desktop"_qs);
-        QDBusConnection::disconnectFromBus(u"program"_qs);
-        m_daemon.terminate();
-        QVERIFY(m_daemon.waitForFinished());
-    }
+    void initTestCase() { qDBusRegisterMetaType<Settings>(); }
 
     void readsTheScheme_data()
     {
@@ -104,8 +87,8 @@ private Q_SLOTS:
     {
         QFETCH(const QVariant, value);
         QFETCH(const ColorScheme, scheme);
-        const Portal desktop(bus(u"desktop"_qs), {{appearance, {{u"color-scheme"_qs, value}}}});
-        const AppearancePortal portal(bus(u"program"_qs));
+        const Portal desktop(m_bus.desktop(), {{appearance, {{u"color-scheme"_qs, value}}}});
+        const AppearancePortal portal(m_bus.program());
         QSignalSpy changes(&portal, &AppearancePortal::colorSchemeChanged);
         QVERIFY(changes.wait());
         QCOMPARE(portal.colorScheme(), scheme);
@@ -115,8 +98,8 @@ private Q_SLOTS:
 
     void readsReducedMotion()
     {
-        const Portal desktop(bus(u"desktop"_qs), {{animation, {{u"enable-animations"_qs, false}}}});
-        const AppearancePortal portal(bus(u"program"_qs));
+        const Portal desktop(m_bus.desktop(), {{animation, {{u"enable-animations"_qs, false}}}});
+        const AppearancePortal portal(m_bus.program());
         QSignalSpy changes(&portal, &AppearancePortal::reducedMotionChanged);
         QVERIFY(changes.wait());
         QVERIFY(portal.reducedMotion());
@@ -124,14 +107,14 @@ private Q_SLOTS:
 
     void keepsItsValuesWithoutPreference()
     {
-        const Portal desktop(bus(u"desktop"_qs),
+        const Portal desktop(m_bus.desktop(),
                              {{appearance, {{u"color-scheme"_qs, 0U}, {u"contrast"_qs, 1U}}},
                               {animation, {{u"enable-animations"_qs, true}}}});
-        const AppearancePortal portal(bus(u"program"_qs));
+        const AppearancePortal portal(m_bus.program());
         const QSignalSpy schemeChanges(&portal, &AppearancePortal::colorSchemeChanged);
         const QSignalSpy motionChanges(&portal, &AppearancePortal::reducedMotionChanged);
         QTRY_COMPARE(desktop.readCount(), 1);
-        settle();
+        m_bus.settle();
         QCOMPARE(portal.colorScheme(), ColorScheme::NoPreference);
         QVERIFY(!portal.reducedMotion());
         QCOMPARE(schemeChanges.size(), 0);
@@ -140,8 +123,8 @@ private Q_SLOTS:
 
     void followsChanges()
     {
-        Portal desktop(bus(u"desktop"_qs), {{appearance, {{u"color-scheme"_qs, 1U}}}});
-        const AppearancePortal portal(bus(u"program"_qs));
+        Portal desktop(m_bus.desktop(), {{appearance, {{u"color-scheme"_qs, 1U}}}});
+        const AppearancePortal portal(m_bus.program());
         QTRY_COMPARE(portal.colorScheme(), ColorScheme::Dark);
 
         desktop.change(appearance, u"color-scheme"_qs, 2U);
@@ -156,8 +139,8 @@ private Q_SLOTS:
 
     void passesOverOtherSettings()
     {
-        Portal desktop(bus(u"desktop"_qs), {});
-        const AppearancePortal portal(bus(u"program"_qs));
+        Portal desktop(m_bus.desktop(), {});
+        const AppearancePortal portal(m_bus.program());
         desktop.change(u"org.example"_qs, u"color-scheme"_qs, 1U);
         desktop.change(appearance, u"accent-color"_qs, 1U);
         desktop.change(appearance, u"color-scheme"_qs, 2U);
@@ -167,8 +150,8 @@ private Q_SLOTS:
 
     void aMissingPortalIsNoFailure()
     {
-        const AppearancePortal portal(bus(u"program"_qs));
-        settle();
+        const AppearancePortal portal(m_bus.program());
+        m_bus.settle();
         QCOMPARE(portal.colorScheme(), ColorScheme::NoPreference);
         QVERIFY(!portal.reducedMotion());
     }
@@ -181,22 +164,7 @@ private Q_SLOTS:
     }
 
 private:
-    QDBusConnection bus(const QString& name)
-    {
-        return QDBusConnection::connectToBus(m_address, name);
-    }
-
-    /// Everything sent on the bus before this call has arrived when it returns.
-    void settle()
-    {
-        const auto ping = QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_qs, u"/"_qs,
-                                                         u"org.freedesktop.DBus"_qs, u"GetId"_qs);
-        QCOMPARE(bus(u"program"_qs).call(ping).type(), QDBusMessage::ReplyMessage);
-        QCoreApplication::processEvents();
-    }
-
-    QProcess m_daemon;
-    QString m_address;
+    SessionBus m_bus;
 };
 
 TEST_SUBJECT(AppearancePortalTest)

@@ -1,7 +1,6 @@
 // The program over a site of the test's own: LOOPBACK_SITE_ORIGIN names it.
 
 #include "Program.h"
-#include "QmlModules.h"
 
 int main(int argc, char* argv[])
 {

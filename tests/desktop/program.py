@@ -85,9 +85,26 @@ class Program:
         self.wait_until(lambda: self._laid_out_size() == (width, height), "it is laid out anew")
 
     def size(self) -> tuple[int, int]:
-        geometry = self._xdotool("getwindowgeometry", "--shell", self.window())
-        values = dict(line.split("=") for line in geometry.splitlines())
-        return int(values["WIDTH"]), int(values["HEIGHT"])
+        geometry = self._geometry()
+        return geometry["WIDTH"], geometry["HEIGHT"]
+
+    def position(self) -> tuple[int, int]:
+        """Of the window's upper left corner on the screen."""
+        geometry = self._geometry()
+        return geometry["X"], geometry["Y"]
+
+    def drag(self, start: tuple[int, int], way: tuple[int, int]) -> None:
+        """Drags by the pointer from the point in the window, in steps as a hand does."""
+        window, (x, y) = self.window(), self.position()
+        self._xdotool("mousemove", "--window", window, *map(str, start), "mousedown", "1")
+        for step in range(1, 5):
+            goal = (x + start[0] + way[0] * step // 4, y + start[1] + way[1] * step // 4)
+            self._xdotool("mousemove", "--sync", *map(str, goal))
+        self._xdotool("mouseup", "1")
+
+    def _geometry(self) -> dict[str, int]:
+        lines = self._xdotool("getwindowgeometry", "--shell", self.window()).splitlines()
+        return {name: int(value) for name, value in (line.split("=") for line in lines)}
 
     def _laid_out_size(self) -> tuple[int, int] | None:
         """What the program believes its window to measure."""

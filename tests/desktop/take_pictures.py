@@ -8,6 +8,7 @@ Without --size each screen has its own, as docs/pictures keeps them. The colours
 import argparse
 import json
 import os
+import re
 from collections.abc import Callable
 from dataclasses import dataclass
 from pathlib import Path
@@ -53,7 +54,7 @@ class Tour:
         self._scroll_to("看变化")
         self._press_first("看变化")
 
-    def today_kept(self) -> None:
+    def kept_for_its_changes(self) -> None:
         self.today()
         self._press_first("收下并持续更新：")
         self._press_first("收下并持续更新：")
@@ -61,15 +62,6 @@ class Tour:
     def today_adjusted(self) -> None:
         self.today()
         self._press_first("这类少看：")
-
-    def today_narrow(self) -> None:
-        self.today()
-
-    def today_narrow_list(self) -> None:
-        self.today()
-
-    def today_wide(self) -> None:
-        self.today()
 
     def thread(self) -> None:
         self.today()
@@ -79,7 +71,7 @@ class Tour:
         self._program.press_keys("ctrl+n")
         self._program.wait_for("链接或一句话")
 
-    def hand_in_refused(self) -> None:
+    def hand_in_not_supported(self) -> None:
         self.hand_in()
         self._program.wait_for("链接或一句话").set_text("http://127.0.0.1/")
         self._program.wait_for("交给 Corvanite", "push button").press()
@@ -109,25 +101,22 @@ class Tour:
     def archive(self) -> None:
         self._program.press_keys("ctrl+4", "Home")
 
-    def archive_day(self) -> None:
+    def archived_day(self) -> None:
         self.archive()
         self._press_first("查看")
 
-    def archive_day_end(self) -> None:
+    def archived_day_again(self) -> None:
         self._program.press_keys("ctrl+4")
 
     def sources(self) -> None:
         self._program.press_keys("ctrl+5", "Home")
-
-    def sources_end(self) -> None:
-        self._program.press_keys("ctrl+5")
 
     def sync_failed(self) -> None:
         self.today()
         self._program.press_keys("F5")
         self._program.wait_for_beginning("同步失败")
 
-    def alert(self) -> None:
+    def not_saved(self) -> None:
         """The reader's folder is taken away for a moment."""
         self.today()
         folder = self._world.data_home / "Corvanite/Information"
@@ -139,7 +128,7 @@ class Tour:
         folder.unlink()
         away.rename(folder)
 
-    def update_and_sync(self) -> None:
+    def newer_build(self) -> None:
         """Needs a program that reads a site which offers a newer build."""
         self._program.wait_for("获取更新")
         self._program.press_keys("F5")
@@ -162,48 +151,52 @@ class Tour:
         self._program.wait_for_beginning(beginning).press()
 
 
+NARROW = (760, 780)
+
+
 @dataclass(frozen=True)
 class Screen:
+    stop: str
+    """What tests/support/ScreenTour.h calls it."""
     open: Callable[[Tour], None]
     size: tuple[int, int] = USUAL
+    view: str = ""
+    """What tells it from the other pictures of its stop."""
     then: Callable[[Tour], None] = lambda tour: None
     """What is done once the window has its size."""
 
     @property
     def name(self) -> str:
-        return self.open.__name__.replace("_", "-")
+        return re.sub("[, ]+", "-", self.stop) + (f"-{self.view}" if self.view else "")
 
-
-NARROW = (760, 780)
 
 SCREENS = [
-    Screen(Tour.today),
-    Screen(Tour.today_narrow, NARROW),
-    Screen(Tour.today_narrow_list, NARROW, Tour.end),
-    Screen(Tour.today_wide, ROOMY),
-    Screen(Tour.kept_empty),
-    Screen(Tour.today_kept),
-    Screen(Tour.today_adjusted),
-    Screen(Tour.today_unfolded),
-    Screen(Tour.today_change),
-    Screen(Tour.thread),
-    Screen(Tour.hand_in),
-    Screen(Tour.hand_in_refused),
-    Screen(Tour.keys),
-    Screen(Tour.kept),
-    Screen(Tour.kept_no_match),
-    Screen(Tour.weekly),
-    Screen(Tour.archive),
-    Screen(Tour.archive_day),
-    Screen(Tour.archive_day_end, then=Tour.end),
-    Screen(Tour.sources),
-    Screen(Tour.sources_end, then=Tour.end),
-    Screen(Tour.sync_failed),
-    Screen(Tour.alert),
+    Screen("today", Tour.today),
+    Screen("today", Tour.today, NARROW, "narrow"),
+    Screen("today", Tour.today, NARROW, "narrow-list", Tour.end),
+    Screen("today", Tour.today, ROOMY, "wide"),
+    Screen("kept, empty", Tour.kept_empty),
+    Screen("kept for its changes", Tour.kept_for_its_changes),
+    Screen("today, adjusted", Tour.today_adjusted),
+    Screen("today, everything unfolded", Tour.today_unfolded),
+    Screen("today, everything unfolded", Tour.today_change, view="change"),
+    Screen("thread", Tour.thread),
+    Screen("hand-in", Tour.hand_in),
+    Screen("hand-in, not supported", Tour.hand_in_not_supported),
+    Screen("keys", Tour.keys),
+    Screen("kept", Tour.kept),
+    Screen("kept, no match", Tour.kept_no_match),
+    Screen("weekly", Tour.weekly),
+    Screen("archive", Tour.archive),
+    Screen("archived day", Tour.archived_day),
+    Screen("archived day", Tour.archived_day_again, view="end", then=Tour.end),
+    Screen("sources", Tour.sources),
+    Screen("sources", Tour.sources, view="end", then=Tour.end),
+    Screen("sync failed", Tour.sync_failed),
+    Screen("not saved", Tour.not_saved),
 ]
 
-
-SCREENS_WITH_SITE = [Screen(Tour.update_and_sync)]
+SCREENS_WITH_SITE = [Screen("a newer build", Tour.newer_build)]
 
 
 @dataclass(frozen=True)

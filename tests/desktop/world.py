@@ -42,11 +42,17 @@ class World:
     """Use it in a `with`; on leaving it stops what it started and removes its folders.
 
     `scheme`, "light" or "dark", is what the desktop's appearance portal says; without one there
-    is no portal.
+    is no portal. `screen_reader` is what the desktop says of one.
     """
 
-    def __init__(self, scheme: str | None = None, screen: tuple[int, int] = (1920, 1200)):
+    def __init__(
+        self,
+        scheme: str | None = None,
+        screen: tuple[int, int] = (1920, 1200),
+        screen_reader: bool = True,
+    ):
         self._scheme = scheme
+        self._screen_reader = screen_reader
         self._screen = screen
         self._processes: list[OwnProcess] = []
         self._programs: list[Program] = []
@@ -129,7 +135,6 @@ class World:
             "XDG_DATA_HOME": str(self.data_home),
             "XDG_RUNTIME_DIR": str(runtime),
             "GSETTINGS_BACKEND": "memory",
-            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "QT_QPA_PLATFORM": "xcb",
         }
 
@@ -172,18 +177,27 @@ class World:
     def _start_accessibility(self) -> None:
         self._run("accessibility", ["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
         self._wait_for_service("org.a11y.Bus")
-        reply = self._session_bus.call_sync(
+        address = self._ask_accessibility("org.a11y.Bus", "GetAddress", None)
+        self.accessibility = AccessibilityBus(address.unpack()[0])
+        enabled = GLib.Variant("b", self._screen_reader)
+        self._ask_accessibility(
+            "org.freedesktop.DBus.Properties",
+            "Set",
+            GLib.Variant("(ssv)", ("org.a11y.Status", "ScreenReaderEnabled", enabled)),
+        )
+
+    def _ask_accessibility(self, interface: str, method: str, arguments) -> GLib.Variant:
+        return self._session_bus.call_sync(
             "org.a11y.Bus",
             "/org/a11y/bus",
-            "org.a11y.Bus",
-            "GetAddress",
-            None,
+            interface,
+            method,
+            arguments,
             None,
             Gio.DBusCallFlags.NONE,
             int(PATIENCE * 1000),
             None,
         )
-        self.accessibility = AccessibilityBus(reply.unpack()[0])
 
     def _start_window_manager(self) -> None:
         self._run("window-manager", ["openbox", "--sm-disable"])

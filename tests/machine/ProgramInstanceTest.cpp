@@ -118,9 +118,13 @@ private Q_SLOTS:
         auto taken = InstanceLock::take(m_directory, m_fileManager);
         QVERIFY(taken);
         auto ending = std::make_unique<InstanceLock>(*std::move(taken));
+        QLocalServer channel;
+        channel.setSocketOptions(QLocalServer::AbstractNamespaceOption);
+        QVERIFY(channel.listen(InstanceChannel::nameFor(m_directory)));
         auto standing = Standing::Later;
         const auto next = startAnother(standing);
-        QTest::qWait(1);
+        QTRY_VERIFY_WITH_TIMEOUT(channel.hasPendingConnections(), 20000);
+        channel.close();
         ending.reset();
         QTRY_VERIFY_WITH_TIMEOUT(next->isFinished(), 20000);
         QCOMPARE(standing, Standing::First);

@@ -60,7 +60,9 @@ class ContentsTest(unittest.TestCase):
 
     def test_hardening(self):
         for program in PROGRAMS:
-            self.assert_clean("hardening-check", self.root / "usr/bin" / program)
+            # Debian 12's own start files have no marks for control flow, so no program has.
+            self.assert_clean(
+                "hardening-check", "--nocfprotection", self.root / "usr/bin" / program)
 
     def test_nothing_tells_where_it_was_built(self):
         for program in PROGRAMS:

@@ -1,5 +1,5 @@
 #include "ArchivePage.h"
-#include "SampleModel.h"
+#include "ShownPage.h"
 #include "Subject.h"
 
 #include <QSignalSpy>
@@ -24,173 +24,142 @@ class ArchivePageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void anEmptyHistoryHasNoDays();
-    void listsDaysNewestFirst();
-    void todayIsTheBeijingDayOfThePack_data();
-    void todayIsTheBeijingDayOfThePack();
-    void showsTheSelectedDay();
-    void ranksCountTheSignalsThatAreStillThere();
-    void aDayStandsBelowTheSlicesOfALongOne();
-    void goesBackToTheIndex();
-    void goesFromDayToDay();
-    void theFirstOfRepeatedDatesIsShown();
-};
+    void anEmptyHistoryHasNoDays()
+    {
+        ShownPage<ArchivePage> page;
 
-void ArchivePageTest::anEmptyHistoryHasNoDays()
-{
-    SampleModel sample;
-    const auto model = sample.make();
-    ArchivePage page;
-    page.setWorkbench(model.get());
-
-    QCOMPARE(page.summary(), u"0 天记录"_qs);
-    QCOMPARE(page.days()->rowCount(), 0);
-    QVERIFY(!page.showsDay());
-}
-
-void ArchivePageTest::listsDaysNewestFirst()
-{
-    auto sample = threeDays();
-    const auto model = sample.make();
-    ArchivePage page;
-    page.setWorkbench(model.get());
-
-    QCOMPARE(page.summary(), u"3 天记录"_qs);
-    const auto& days = page.days()->rows();
-    QCOMPARE(days.size(), 3);
-    QCOMPARE(days[0].date, u"2026-09-02"_qs);
-    QCOMPARE(days[0].entries.size(), 2);
-    QCOMPARE(days[1].date, u"2026-09-01"_qs);
-    QCOMPARE(days[2].date, u"2026-08-31"_qs);
-    QCOMPARE(days[2].entries[0].title, u"Title of old"_qs);
-}
-
-void ArchivePageTest::todayIsTheBeijingDayOfThePack_data()
-{
-    QTest::addColumn<QString>("packAsOf");
-    QTest::addColumn<QList<bool>>("todays");
-
-    QTest::newRow("in milliseconds")
-        << u"2026-09-02T01:00:00.000Z"_qs << QList<bool>{true, false, false};
-    QTest::newRow("in seconds") << u"2026-09-02T01:00:00Z"_qs << QList<bool>{true, false, false};
-    QTest::newRow("before midnight in Beijing")
-        << u"2026-08-31T15:59:59.999Z"_qs << QList<bool>{false, false, true};
-    QTest::newRow("midnight in Beijing")
-        << u"2026-08-31T16:00:00.000Z"_qs << QList<bool>{false, true, false};
-    QTest::newRow("no stamp") << u"昨天"_qs << QList<bool>{false, false, false};
-}
-
-void ArchivePageTest::todayIsTheBeijingDayOfThePack()
-{
-    QFETCH(QString, packAsOf);
-    auto sample = threeDays();
-    sample.packAsOf = packAsOf;
-    const auto model = sample.make();
-    ArchivePage page;
-    page.setWorkbench(model.get());
-
-    QList<bool> todays;
-    for (const auto& day : page.days()->rows()) {
-        todays.append(day.isToday);
+        QCOMPARE(page->summary(), u"0 天记录"_qs);
+        QCOMPARE(page->days()->rowCount(), 0);
+        QVERIFY(!page->showsDay());
     }
-    QTEST(todays, "todays");
-}
 
-void ArchivePageTest::showsTheSelectedDay()
-{
-    auto sample = threeDays();
-    const auto model = sample.make();
-    ArchivePage page;
-    page.setWorkbench(model.get());
+    void listsDaysNewestFirst()
+    {
+        ShownPage<ArchivePage> page(threeDays());
 
-    model->openArchiveDay(u"2026-09-01"_qs);
+        QCOMPARE(page->summary(), u"3 天记录"_qs);
+        const auto& days = page->days()->rows();
+        QCOMPARE(days.size(), 3);
+        QCOMPARE(days[0].date, u"2026-09-02"_qs);
+        QCOMPARE(days[0].entries.size(), 2);
+        QCOMPARE(days[1].date, u"2026-09-01"_qs);
+        QCOMPARE(days[2].date, u"2026-08-31"_qs);
+        QCOMPARE(days[2].entries[0].title, u"Title of old"_qs);
+    }
 
-    QVERIFY(page.showsDay());
-    QCOMPARE(page.dayPosition(), 1);
-    QCOMPARE(page.day().title, u"2026年9月1日 的精选"_qs);
-    QCOMPARE(page.day().previousText, u"前一天 · 8月31日"_qs);
-    QCOMPARE(page.day().nextText, u"后一天 · 9月2日"_qs);
-    QCOMPARE(page.focusRows()->rowCount(), 0);
-}
+    void todayIsTheBeijingDayOfThePack_data()
+    {
+        QTest::addColumn<QString>("packAsOf");
+        QTest::addColumn<QList<bool>>("todays");
 
-void ArchivePageTest::ranksCountTheSignalsThatAreStillThere()
-{
-    auto sample = threeDays();
-    const auto model = sample.make();
-    model->openArchiveDay(u"2026-09-02"_qs);
-    ArchivePage page;
-    page.setWorkbench(model.get());
+        QTest::newRow("in milliseconds")
+            << u"2026-09-02T01:00:00.000Z"_qs << QList<bool>{true, false, false};
+        QTest::newRow("in seconds")
+            << u"2026-09-02T01:00:00Z"_qs << QList<bool>{true, false, false};
+        QTest::newRow("before midnight in Beijing")
+            << u"2026-08-31T15:59:59.999Z"_qs << QList<bool>{false, false, true};
+        QTest::newRow("midnight in Beijing")
+            << u"2026-08-31T16:00:00.000Z"_qs << QList<bool>{false, true, false};
+        QTest::newRow("no stamp") << u"昨天"_qs << QList<bool>{false, false, false};
+    }
 
-    const auto& rows = page.focusRows()->rows();
-    QCOMPARE(rows.size(), 2);
-    QCOMPARE(rows[0].rank, u"01"_qs);
-    QCOMPARE(rows[0].title, u"Title of b"_qs);
-    QCOMPARE(rows[1].rank, u"02"_qs);
-    QCOMPARE(rows[1].title, u"Title of a"_qs);
-}
+    void todayIsTheBeijingDayOfThePack()
+    {
+        QFETCH(QString, packAsOf);
+        auto sample = threeDays();
+        sample.packAsOf = packAsOf;
+        ShownPage<ArchivePage> page(std::move(sample));
 
-void ArchivePageTest::aDayStandsBelowTheSlicesOfALongOne()
-{
-    auto sample = threeDays();
-    sample.selectionDays[1].focusSignalIds = QList<QString>(25, u"a"_qs);
-    const auto model = sample.make();
-    ArchivePage page;
-    page.setWorkbench(model.get());
-    QCOMPARE(page.summary(), u"3 天记录"_qs);
-    QCOMPARE(page.days()->rowCount(), 5);
+        QList<bool> todays;
+        for (const auto& day : page->days()->rows()) {
+            todays.append(day.isToday);
+        }
+        QTEST(todays, "todays");
+    }
 
-    model->openArchiveDay(u"2026-09-02"_qs);
-    QCOMPARE(page.dayPosition(), 0);
-    model->openArchiveDay(u"2026-09-01"_qs);
-    QCOMPARE(page.dayPosition(), 3);
-}
+    void showsTheSelectedDay()
+    {
+        ShownPage<ArchivePage> page(threeDays());
 
-void ArchivePageTest::goesBackToTheIndex()
-{
-    auto sample = threeDays();
-    const auto model = sample.make();
-    ArchivePage page;
-    page.setWorkbench(model.get());
-    model->openArchiveDay(u"2026-08-31"_qs);
-    const QSignalSpy dayChanged(&page, &ArchivePage::dayChanged);
+        page.model->openArchiveDay(u"2026-09-01"_qs);
 
-    model->closeArchiveDay();
+        QVERIFY(page->showsDay());
+        QCOMPARE(page->dayPosition(), 1);
+        QCOMPARE(page->day().title, u"2026年9月1日 的精选"_qs);
+        QCOMPARE(page->day().previousText, u"前一天 · 8月31日"_qs);
+        QCOMPARE(page->day().nextText, u"后一天 · 9月2日"_qs);
+        QCOMPARE(page->focusRows()->rowCount(), 0);
+    }
 
-    QVERIFY(!page.showsDay());
-    QCOMPARE(page.dayPosition(), -1);
-    QCOMPARE(page.focusRows()->rowCount(), 0);
-    QCOMPARE(dayChanged.size(), 1);
-}
+    void ranksCountTheSignalsThatAreStillThere()
+    {
+        auto sample = threeDays();
+        const auto model = sample.make();
+        model->openArchiveDay(u"2026-09-02"_qs);
+        ArchivePage page;
+        page.setWorkbench(model.get());
 
-void ArchivePageTest::goesFromDayToDay()
-{
-    auto sample = threeDays();
-    const auto model = sample.make();
-    ArchivePage page;
-    page.setWorkbench(model.get());
-    model->openArchiveDay(u"2026-08-31"_qs);
-    QCOMPARE(page.day().previousText, QString());
+        const auto& rows = page.focusRows()->rows();
+        QCOMPARE(rows.size(), 2);
+        QCOMPARE(rows[0].rank, u"01"_qs);
+        QCOMPARE(rows[0].title, u"Title of b"_qs);
+        QCOMPARE(rows[1].rank, u"02"_qs);
+        QCOMPARE(rows[1].title, u"Title of a"_qs);
+    }
 
-    model->openArchiveDay(page.day().nextDate);
-    model->openArchiveDay(page.day().nextDate);
+    void aDayStandsBelowTheSlicesOfALongOne()
+    {
+        auto sample = threeDays();
+        sample.selectionDays[1].focusSignalIds = QList<QString>(25, u"a"_qs);
+        ShownPage<ArchivePage> page(std::move(sample));
+        QCOMPARE(page->summary(), u"3 天记录"_qs);
+        QCOMPARE(page->days()->rowCount(), 5);
 
-    QCOMPARE(page.day().title, u"2026年9月2日 的精选"_qs);
-    QCOMPARE(page.day().nextText, QString());
-}
+        page.model->openArchiveDay(u"2026-09-02"_qs);
+        QCOMPARE(page->dayPosition(), 0);
+        page.model->openArchiveDay(u"2026-09-01"_qs);
+        QCOMPARE(page->dayPosition(), 3);
+    }
 
-void ArchivePageTest::theFirstOfRepeatedDatesIsShown()
-{
-    auto sample = threeDays();
-    sample.selectionDays = {{u"2026-09-01"_qs, {u"b"_qs}, 1}, {u"2026-09-01"_qs, {u"a"_qs}, 2}};
-    const auto model = sample.make();
-    ArchivePage page;
-    page.setWorkbench(model.get());
+    void goesBackToTheIndex()
+    {
+        ShownPage<ArchivePage> page(threeDays());
+        page.model->openArchiveDay(u"2026-08-31"_qs);
+        const QSignalSpy dayChanged(&*page, &ArchivePage::dayChanged);
 
-    model->openArchiveDay(u"2026-09-01"_qs);
+        page.model->closeArchiveDay();
 
-    QCOMPARE(page.day().count, u"当日共 1 条在册信号"_qs);
-    QCOMPARE(page.focusRows()->rows().first().title, u"Title of b"_qs);
-}
+        QVERIFY(!page->showsDay());
+        QCOMPARE(page->dayPosition(), -1);
+        QCOMPARE(page->focusRows()->rowCount(), 0);
+        QCOMPARE(dayChanged.size(), 1);
+    }
+
+    void goesFromDayToDay()
+    {
+        ShownPage<ArchivePage> page(threeDays());
+        page.model->openArchiveDay(u"2026-08-31"_qs);
+        QCOMPARE(page->day().previousText, QString());
+
+        page.model->openArchiveDay(page->day().nextDate);
+        page.model->openArchiveDay(page->day().nextDate);
+
+        QCOMPARE(page->day().title, u"2026年9月2日 的精选"_qs);
+        QCOMPARE(page->day().nextText, QString());
+    }
+
+    void theFirstOfRepeatedDatesIsShown()
+    {
+        auto sample = threeDays();
+        sample.selectionDays = {{u"2026-09-01"_qs, {u"b"_qs}, 1}, {u"2026-09-01"_qs, {u"a"_qs}, 2}};
+        ShownPage<ArchivePage> page(std::move(sample));
+
+        page.model->openArchiveDay(u"2026-09-01"_qs);
+
+        QCOMPARE(page->day().count, u"当日共 1 条在册信号"_qs);
+        QCOMPARE(page->focusRows()->rows().first().title, u"Title of b"_qs);
+    }
+};
 
 TEST_SUBJECT(ArchivePageTest)
 #include "ArchivePageTest.moc"

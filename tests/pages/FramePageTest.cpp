@@ -47,8 +47,7 @@ private Q_SLOTS:
 
     void offersANewerBuildUntilItIsWavedAway()
     {
-        m_sample.site->answers.insert(SiteClient::appVersionPath,
-                                      SiteReply{SiteDocuments::appVersion(u"1.3.0"_qs), 200});
+        m_sample.site->offer(SiteClient::appVersionPath, SiteDocuments::appVersion(u"1.3.0"_qs));
 
         m_model->probeAppUpdateOnce();
         QVERIFY(m_page->hasUpdate());
@@ -63,12 +62,10 @@ private Q_SLOTS:
     // There was a button, and it did nothing.
     void offersNoButtonForAnAddressThatIsNotOpened()
     {
-        m_sample.site->answers.insert(
+        m_sample.site->offer(
             SiteClient::appVersionPath,
-            SiteReply{
-                SiteDocuments::appVersion(
-                    u"1.3.0"_qs, {{u"downloadUrl"_qs, u"https://reader@corvanite.example/a"_qs}}),
-                200});
+            SiteDocuments::appVersion(
+                u"1.3.0"_qs, {{u"downloadUrl"_qs, u"https://reader@corvanite.example/a"_qs}}));
 
         m_model->probeAppUpdateOnce();
 

@@ -38,6 +38,30 @@ private Q_SLOTS:
         QVERIFY(RailLineRow::from(signal, true, 0).seen);
     }
 
+    void breaksNoLatinWordAtItsHyphen_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("shown");
+
+        QTest::newRow("in a word") << u"浏览器 K-Meleon 复测"_qs << u"浏览器 K\u2011Meleon 复测"_qs;
+        QTest::newRow("several") << u"end-to-end"_qs << u"end\u2011to\u2011end"_qs;
+        QTest::newRow("beside a digit") << u"GPT-4"_qs << u"GPT-4"_qs;
+        QTest::newRow("beside Chinese") << u"中-a"_qs << u"中-a"_qs;
+        QTest::newRow("at the ends") << u"-a-"_qs << u"-a-"_qs;
+    }
+
+    void breaksNoLatinWordAtItsHyphen()
+    {
+        QFETCH(const QString, title);
+        auto signal = sampleSignal(u"a"_qs);
+        signal.title = title;
+
+        const auto row = RailLineRow::from(signal, false, 0);
+
+        QTEST(row.title, "shown");
+        QCOMPARE(row.name, u"打开脉络："_qs + title);
+    }
+
     void namesWhatItOpens()
     {
         const auto row = RailLineRow::from(sampleSignal(u"a"_qs), false, 0);

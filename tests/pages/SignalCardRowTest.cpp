@@ -45,6 +45,17 @@ private Q_SLOTS:
         QCOMPARE(row.reduceName, u"这类少看：产品雷达"_qs);
     }
 
+    void aSourceThatLeadsNowhereIsNamedAsItReads()
+    {
+        auto signal = sampleSignal(u"a"_qs);
+        signal.originalURL = u"javascript:alert(1)"_qs;
+
+        const auto row = rowOf(signal);
+
+        QCOMPARE(row.originalAddress, QString());
+        QCOMPARE(row.originalName, row.sourceLine);
+    }
+
     void tagsTheKind_data()
     {
         QTest::addColumn<InformationSignalKind>("kind");
@@ -179,14 +190,16 @@ private Q_SLOTS:
 
     void describesItsStateInOneSentence()
     {
-        QCOMPARE(rowOf(sampleSignal(u"a"_qs)).description, u"新出现，产品雷达，5 小时前核验"_qs);
+        QCOMPARE(rowOf(sampleSignal(u"a"_qs)).description,
+                 u"新出现，产品雷达，5 小时前核验\n为什么值得看：Why a\n最大限制：Caveat of a"_qs);
 
         auto signal = blockedSignal();
         signal.kind = InformationSignalKind::Update;
         const auto row = rowOf(signal, {.kept = false, .seen = true});
 
         QVERIFY(row.seen);
-        QCOMPARE(row.description, u"重要更新，产品雷达，5 小时前核验，国内访问受限，已看过"_qs);
+        QVERIFY(row.description.startsWith(
+            u"重要更新，产品雷达，5 小时前核验，国内访问受限，已看过\n"_qs));
     }
 };
 

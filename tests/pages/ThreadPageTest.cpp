@@ -1,5 +1,5 @@
 #include "ThreadPage.h"
-#include "SampleModel.h"
+#include "ShownPage.h"
 #include "Subject.h"
 
 #include <QSignalSpy>
@@ -29,56 +29,49 @@ private Q_SLOTS:
         signal.timeline = {
             {u"8 月 25 日"_qs, u"2026-08-25T00:00:00Z"_qs, u"首次出现"_qs, u"榜单"_qs}};
         signal.relatedSources = {{u"官网"_qs, u"https://origin.example/"_qs}};
-        const auto model = sample.make();
-        ThreadPage page;
-        open(page, *model);
+        ShownPage<ThreadPage> page(std::move(sample));
+        page->setSignalId(u"a"_qs);
 
-        QCOMPARE(page.title(), u"Title of a"_qs);
-        QVERIFY(page.hasDigest());
-        QCOMPARE(page.digest(), u"要点"_qs);
-        QCOMPARE(page.originalAddress(), u"https://origin.example/a"_qs);
-        QVERIFY(page.hasSources());
-        QCOMPARE(page.rows()->rows(), ThreadRow::columnOf(signal));
-        QVERIFY(!page.kept());
+        QCOMPARE(page->title(), u"Title of a"_qs);
+        QVERIFY(page->hasDigest());
+        QCOMPARE(page->digest(), u"要点"_qs);
+        QCOMPARE(page->originalAddress(), u"https://origin.example/a"_qs);
+        QVERIFY(page->hasSources());
+        QCOMPARE(page->rows()->rows(), ThreadRow::columnOf(page.sample.signals.first()));
+        QVERIFY(!page->kept());
     }
 
     void hasNoDigestWhereTheSignalHasNone()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        ThreadPage page;
-        open(page, *model);
+        ShownPage<ThreadPage> page;
+        page->setSignalId(u"a"_qs);
 
-        QVERIFY(!page.hasDigest());
-        QVERIFY(!page.hasSources());
+        QVERIFY(!page->hasDigest());
+        QVERIFY(!page->hasSources());
     }
 
     void marksTheSignalSeen()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        ThreadPage page;
-        open(page, *model);
-        QVERIFY(model->workspace().seenTargets.isEmpty());
+        ShownPage<ThreadPage> page;
+        page->setSignalId(u"a"_qs);
+        QVERIFY(page.model->workspace().seenTargets.isEmpty());
 
-        page.markSeen();
-        QCOMPARE(model->workspace().seenTargets, QStringList(u"target:a"_qs));
+        page->markSeen();
+        QCOMPARE(page.model->workspace().seenTargets, QStringList(u"target:a"_qs));
     }
 
     void showsWhyAKeptSignalWasKept()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        ThreadPage page;
-        open(page, *model);
+        ShownPage<ThreadPage> page;
+        page->setSignalId(u"a"_qs);
 
-        model->toggleKeep(u"a"_qs);
-        QVERIFY(page.kept());
-        QCOMPARE(page.saveReason(), u"Why a"_qs);
-        QCOMPARE(page.storedNote(), QString());
+        page.model->toggleKeep(u"a"_qs);
+        QVERIFY(page->kept());
+        QCOMPARE(page->saveReason(), u"Why a"_qs);
+        QCOMPARE(page->storedNote(), QString());
 
-        model->toggleKeep(u"a"_qs);
-        QVERIFY(!page.kept());
+        page.model->toggleKeep(u"a"_qs);
+        QVERIFY(!page->kept());
     }
 
     // The entry alone does not count as kept once its target is no longer followed.
@@ -89,11 +82,10 @@ private Q_SLOTS:
             u"/support/Corvanite/Information/workspace-v1.json"_qs,
             R"({"version": 3, "saved": {"a": {"savedAt": "2026-09-01T00:00:00Z",
                 "saveReason": "Why a", "note": "n"}}})");
-        const auto model = sample.make();
-        ThreadPage page;
-        open(page, *model);
+        ShownPage<ThreadPage> page(std::move(sample));
+        page->setSignalId(u"a"_qs);
 
-        QVERIFY(!page.kept());
+        QVERIFY(!page->kept());
     }
 
     void everyEditIsStoredAndNotEchoed()
@@ -168,38 +160,32 @@ private Q_SLOTS:
     {
         SampleModel sample;
         sample.retiredSignals = {sampleSignal(u"old"_qs)};
-        const auto model = sample.make();
-        ThreadPage page;
-        page.setWorkbench(model.get());
-        page.setSignalId(u"old"_qs);
+        ShownPage<ThreadPage> page(std::move(sample));
+        page->setSignalId(u"old"_qs);
 
-        QCOMPARE(page.title(), u"Title of old"_qs);
-        QVERIFY(!page.kept());
+        QCOMPARE(page->title(), u"Title of old"_qs);
+        QVERIFY(!page->kept());
     }
 
     void anUnknownSignalLeavesTheThreadAsItWas()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        ThreadPage page;
-        open(page, *model);
+        ShownPage<ThreadPage> page;
+        page->setSignalId(u"a"_qs);
 
-        page.setSignalId(QString());
-        QCOMPARE(page.title(), u"Title of a"_qs);
+        page->setSignalId(QString());
+        QCOMPARE(page->title(), u"Title of a"_qs);
     }
 
     void nothingIsAnnouncedThatDidNotChange()
     {
-        SampleModel sample;
-        const auto model = sample.make();
-        ThreadPage page;
-        open(page, *model);
-        const QSignalSpy thread(&page, &ThreadPage::threadChanged);
-        const QSignalSpy rows(page.rows(), &QAbstractItemModel::dataChanged);
-        const QSignalSpy kept(&page, &ThreadPage::keptChanged);
+        ShownPage<ThreadPage> page;
+        page->setSignalId(u"a"_qs);
+        const QSignalSpy thread(&*page, &ThreadPage::threadChanged);
+        const QSignalSpy rows(page->rows(), &QAbstractItemModel::dataChanged);
+        const QSignalSpy kept(&*page, &ThreadPage::keptChanged);
 
-        model->markSeen(u"b"_qs);
-        model->toggleKeep(u"b"_qs);
+        page.model->markSeen(u"b"_qs);
+        page.model->toggleKeep(u"b"_qs);
 
         QVERIFY(thread.isEmpty());
         QVERIFY(rows.isEmpty());

@@ -1,6 +1,7 @@
 #include "ThreadRow.h"
 #include "SampleSignal.h"
 #include "Subject.h"
+#include "Words.h"
 
 #include <QTest>
 
@@ -18,11 +19,6 @@ QStringList wordsOf(const QList<ThreadRow>& column)
         words.append((row.first ? QString() : u"+"_qs) + kind + QString::number(count));
     }
     return words;
-}
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(u' ');
 }
 
 InformationSignal signalWith(int events, int sources)
@@ -44,35 +40,32 @@ class ThreadRowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void leadsFromTheTimelineToTheSources();
-    void hasNoWayToAnOriginalThatCannotBeOpened();
-    void dealsOutWhatIsLong();
+    void leadsFromTheTimelineToTheSources()
+    {
+        QCOMPARE(wordsOf(ThreadRow::columnOf(signalWith(0, 0))), words("timeline1 original0"));
+        QCOMPARE(wordsOf(ThreadRow::columnOf(signalWith(2, 3))),
+                 words("timeline3 original0 sources3"));
+    }
+
+    void hasNoWayToAnOriginalThatCannotBeOpened()
+    {
+        auto signal = signalWith(0, 1);
+        signal.originalURL = u"file:///etc/passwd"_qs;
+        QCOMPARE(wordsOf(ThreadRow::columnOf(signal)), words("timeline1 sources1"));
+    }
+
+    void dealsOutWhatIsLong()
+    {
+        const auto column = ThreadRow::columnOf(signalWith(24, 25));
+        QCOMPARE(wordsOf(column), words("timeline12 +timeline12 +timeline1 original0 sources12 "
+                                        "+sources12 +sources1"));
+        QVERIFY(column.at(0).timeline.first().isNow);
+        QCOMPARE(column.at(1).timeline.first().summary, u"event 11"_qs);
+        QVERIFY(!column.at(1).timeline.last().isLast);
+        QVERIFY(column.at(2).timeline.last().isLast);
+        QCOMPARE(column.at(5).sources.first().label, u"source 12"_qs);
+    }
 };
-
-void ThreadRowTest::leadsFromTheTimelineToTheSources()
-{
-    QCOMPARE(wordsOf(ThreadRow::columnOf(signalWith(0, 0))), words("timeline1 original0"));
-    QCOMPARE(wordsOf(ThreadRow::columnOf(signalWith(2, 3))), words("timeline3 original0 sources3"));
-}
-
-void ThreadRowTest::hasNoWayToAnOriginalThatCannotBeOpened()
-{
-    auto signal = signalWith(0, 1);
-    signal.originalURL = u"file:///etc/passwd"_qs;
-    QCOMPARE(wordsOf(ThreadRow::columnOf(signal)), words("timeline1 sources1"));
-}
-
-void ThreadRowTest::dealsOutWhatIsLong()
-{
-    const auto column = ThreadRow::columnOf(signalWith(24, 25));
-    QCOMPARE(wordsOf(column), words("timeline12 +timeline12 +timeline1 original0 sources12 "
-                                    "+sources12 +sources1"));
-    QVERIFY(column.at(0).timeline.first().isNow);
-    QCOMPARE(column.at(1).timeline.first().summary, u"event 11"_qs);
-    QVERIFY(!column.at(1).timeline.last().isLast);
-    QVERIFY(column.at(2).timeline.last().isLast);
-    QCOMPARE(column.at(5).sources.first().label, u"source 12"_qs);
-}
 
 TEST_SUBJECT(ThreadRowTest)
 #include "ThreadRowTest.moc"

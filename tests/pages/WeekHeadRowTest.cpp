@@ -32,45 +32,40 @@ class WeekHeadRowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aWeekCountsDaysFocusAndLanes();
-    void aWeekOfNothingThatIsStillThereCoversNoLane();
-    void theBadgeTellsWhetherTheWeekRuns_data();
-    void theBadgeTellsWhetherTheWeekRuns();
+    void aWeekCountsDaysFocusAndLanes()
+    {
+        const auto row = WeekHeadRow::from(sampleWeek(), sampleIndex(), std::nullopt);
+
+        QCOMPARE(row.range, u"8月24日–8月30日"_qs);
+        QCOMPARE(row.summary, u"2 天 · 5 条焦点 · 覆盖 2 条泳道"_qs);
+    }
+
+    void aWeekOfNothingThatIsStillThereCoversNoLane()
+    {
+        QCOMPARE(WeekHeadRow::from(sampleWeek(), {}, std::nullopt).summary,
+                 u"2 天 · 5 条焦点 · 覆盖 0 条泳道"_qs);
+    }
+
+    void theBadgeTellsWhetherTheWeekRuns_data()
+    {
+        QTest::addColumn<QString>("currentWeekId");
+        QTest::addColumn<bool>("running");
+        QTest::addColumn<QString>("badge");
+
+        QTest::newRow("the present week") << u"2026-W35"_qs << true << u"本周 · 进行中"_qs;
+        QTest::newRow("an earlier week") << u"2026-W36"_qs << false << u"已定格"_qs;
+    }
+
+    void theBadgeTellsWhetherTheWeekRuns()
+    {
+        QFETCH(QString, currentWeekId);
+
+        const auto row = WeekHeadRow::from(sampleWeek(), sampleIndex(), currentWeekId);
+
+        QTEST(row.running, "running");
+        QTEST(row.badge, "badge");
+    }
 };
-
-void WeekHeadRowTest::aWeekCountsDaysFocusAndLanes()
-{
-    const auto row = WeekHeadRow::from(sampleWeek(), sampleIndex(), std::nullopt);
-
-    QCOMPARE(row.range, u"8月24日–8月30日"_qs);
-    QCOMPARE(row.summary, u"2 天 · 5 条焦点 · 覆盖 2 条泳道"_qs);
-}
-
-void WeekHeadRowTest::aWeekOfNothingThatIsStillThereCoversNoLane()
-{
-    QCOMPARE(WeekHeadRow::from(sampleWeek(), {}, std::nullopt).summary,
-             u"2 天 · 5 条焦点 · 覆盖 0 条泳道"_qs);
-}
-
-void WeekHeadRowTest::theBadgeTellsWhetherTheWeekRuns_data()
-{
-    QTest::addColumn<QString>("currentWeekId");
-    QTest::addColumn<bool>("running");
-    QTest::addColumn<QString>("badge");
-
-    QTest::newRow("the present week") << u"2026-W35"_qs << true << u"本周 · 进行中"_qs;
-    QTest::newRow("an earlier week") << u"2026-W36"_qs << false << u"已定格"_qs;
-}
-
-void WeekHeadRowTest::theBadgeTellsWhetherTheWeekRuns()
-{
-    QFETCH(QString, currentWeekId);
-
-    const auto row = WeekHeadRow::from(sampleWeek(), sampleIndex(), currentWeekId);
-
-    QTEST(row.running, "running");
-    QTEST(row.badge, "badge");
-}
 
 TEST_SUBJECT(WeekHeadRowTest)
 #include "WeekHeadRowTest.moc"

@@ -1,5 +1,5 @@
 #include "WeeklyPage.h"
-#include "SampleModel.h"
+#include "ShownPage.h"
 #include "Subject.h"
 
 #include <QSignalSpy>
@@ -51,63 +51,50 @@ class WeeklyPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void isEmptyWithoutHistory();
-    void foldsTheHistoryNewestWeekFirst();
-    void resolvesRetiredSignals();
-    void theWeekRunsUntilMidnightInBeijing();
+    void isEmptyWithoutHistory()
+    {
+        ShownPage<WeeklyPage> page;
+
+        QVERIFY(page->empty());
+        QCOMPARE(page->rows()->rowCount(), 0);
+    }
+
+    void foldsTheHistoryNewestWeekFirst()
+    {
+        auto sample = twoWeeks();
+        const auto model = sample.make();
+        WeeklyPage page;
+        const QSignalSpy emptyChanged(&page, &WeeklyPage::emptyChanged);
+        page.setWorkbench(model.get());
+
+        QVERIFY(!page.empty());
+        QCOMPARE(emptyChanged.size(), 1);
+        QCOMPARE(wordsOf(page),
+                 QStringList({u"8月24日–8月30日"_qs, u"2026-08-24"_qs, u"2026-08-26"_qs,
+                              u"8月17日–8月23日"_qs, u"2026-08-23"_qs}));
+    }
+
+    void resolvesRetiredSignals()
+    {
+        ShownPage<WeeklyPage> page(twoWeeks());
+
+        const auto& rows = page->rows()->rows();
+        const auto& entries = rows[4].day.entries;
+        QCOMPARE(entries[0].title, u"Title of old"_qs);
+        QCOMPARE(entries[1].title, u"已归档条目（gone）"_qs);
+        QCOMPARE(rows[3].week.summary, u"1 天 · 2 条焦点 · 覆盖 1 条泳道"_qs);
+    }
+
+    void theWeekRunsUntilMidnightInBeijing()
+    {
+        ShownPage<WeeklyPage> page(twoWeeks());
+        QCOMPARE(badgesOf(*page), QStringList({u"本周 · 进行中"_qs, u"已定格"_qs}));
+
+        page.sample.now = mondayEarly;
+        page->refresh();
+        QCOMPARE(badgesOf(*page), QStringList({u"已定格"_qs, u"已定格"_qs}));
+    }
 };
-
-void WeeklyPageTest::isEmptyWithoutHistory()
-{
-    SampleModel sample;
-    const auto model = sample.make();
-    WeeklyPage page;
-    page.setWorkbench(model.get());
-
-    QVERIFY(page.empty());
-    QCOMPARE(page.rows()->rowCount(), 0);
-}
-
-void WeeklyPageTest::foldsTheHistoryNewestWeekFirst()
-{
-    auto sample = twoWeeks();
-    const auto model = sample.make();
-    WeeklyPage page;
-    const QSignalSpy emptyChanged(&page, &WeeklyPage::emptyChanged);
-    page.setWorkbench(model.get());
-
-    QVERIFY(!page.empty());
-    QCOMPARE(emptyChanged.size(), 1);
-    QCOMPARE(wordsOf(page), QStringList({u"8月24日–8月30日"_qs, u"2026-08-24"_qs, u"2026-08-26"_qs,
-                                         u"8月17日–8月23日"_qs, u"2026-08-23"_qs}));
-}
-
-void WeeklyPageTest::resolvesRetiredSignals()
-{
-    auto sample = twoWeeks();
-    const auto model = sample.make();
-    WeeklyPage page;
-    page.setWorkbench(model.get());
-
-    const auto& rows = page.rows()->rows();
-    const auto& entries = rows[4].day.entries;
-    QCOMPARE(entries[0].title, u"Title of old"_qs);
-    QCOMPARE(entries[1].title, u"已归档条目（gone）"_qs);
-    QCOMPARE(rows[3].week.summary, u"1 天 · 2 条焦点 · 覆盖 1 条泳道"_qs);
-}
-
-void WeeklyPageTest::theWeekRunsUntilMidnightInBeijing()
-{
-    auto sample = twoWeeks();
-    const auto model = sample.make();
-    WeeklyPage page;
-    page.setWorkbench(model.get());
-    QCOMPARE(badgesOf(page), QStringList({u"本周 · 进行中"_qs, u"已定格"_qs}));
-
-    sample.now = mondayEarly;
-    page.refresh();
-    QCOMPARE(badgesOf(page), QStringList({u"已定格"_qs, u"已定格"_qs}));
-}
 
 TEST_SUBJECT(WeeklyPageTest)
 #include "WeeklyPageTest.moc"

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <sys/stat.h>
 
 namespace {
 

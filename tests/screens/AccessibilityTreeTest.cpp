@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QMetaEnum>
+#include <QTest>
 
 namespace {
 

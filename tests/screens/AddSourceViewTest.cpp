@@ -1,6 +1,9 @@
+#include "ScreenListener.h"
 #include "ScreenTour.h"
 #include "Subject.h"
 #include "WorkbenchTexts.h"
+
+#include <QTest>
 
 /// The sheet that something is handed in with.
 class AddSourceViewTest : public QObject
@@ -32,13 +35,69 @@ private Q_SLOTS:
     {
         window().press(u"交给 Corvanite"_qs);
         const auto refusal = WorkbenchTexts::intakeMessage(InformationIntakeFailure::Empty);
-        QVERIFY(window().awaited(refusal, QAccessible::AlertMessage));
+        QVERIFY(window().awaited(refusal, QAccessible::Notification));
         QCOMPARE(ScreenReader::description(field()), refusal);
 
         field()->forceActiveFocus();
         window().type("x");
-        QVERIFY(!window().find(refusal, QAccessible::AlertMessage));
+        QVERIFY(!window().find(refusal, QAccessible::Notification));
         QVERIFY(!model().intakeErrorMessage());
+    }
+
+    void everyRefusalIsReadOut()
+    {
+        const ScreenListener listener;
+        for (int i = 0; i < 2; ++i) {
+            window().press(u"交给 Corvanite"_qs);
+            QCOMPARE(ScreenListener::announced(),
+                     QStringList(WorkbenchTexts::intakeMessage(InformationIntakeFailure::Empty)));
+        }
+    }
+
+    void ctrlEnterHandsInWhereverTheFocusIs()
+    {
+        window().type("typography");
+        window().find(u"取消"_qs, QAccessible::Button)->forceActiveFocus(Qt::TabFocusReason);
+        window().pressKey(Qt::Key_Return, Qt::ControlModifier);
+        QTRY_VERIFY(!field());
+        QCOMPARE(model().keptCustomSources().size(), 1);
+    }
+
+    void aHeldEnterHandsInOnce_data()
+    {
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::newRow("Enter") << Qt::KeyboardModifiers();
+        QTest::newRow("Ctrl+Enter") << Qt::KeyboardModifiers(Qt::ControlModifier);
+    }
+
+    void aHeldEnterHandsInOnce()
+    {
+        QFETCH(const Qt::KeyboardModifiers, modifiers);
+        const ScreenListener listener;
+        for (const bool repeated : {false, true, true}) {
+            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, modifiers, {}, repeated);
+            QCoreApplication::sendEvent(window().window(), &enter);
+        }
+        window().settle();
+        QCOMPARE(ScreenListener::announced().size(), 1);
+    }
+
+    void aClosedSheetIsDropped()
+    {
+        const QPointer<QQuickItem> dropped = field();
+        window().pressKey(Qt::Key_Escape);
+        QTRY_VERIFY(!dropped);
+    }
+
+    // A press took the focus from the field, whose raw letters were then handed in.
+    void aPressLeavesACompositionToTheField()
+    {
+        QTest::mousePress(
+            window().window(), Qt::LeftButton, {},
+            ScreenReader::place(window().find(u"交给 Corvanite"_qs, QAccessible::Button))
+                .center()
+                .toPoint());
+        QVERIFY(field()->hasActiveFocus());
     }
 
     void cancellingHandsNothingIn()

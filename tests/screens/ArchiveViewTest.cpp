@@ -1,6 +1,8 @@
 #include "ScreenTour.h"
 #include "Subject.h"
 
+#include <QTest>
+
 /// The archive under the reader's hands, and the ways between it, the weekly digest and today.
 class ArchiveViewTest : public QObject
 {
@@ -77,6 +79,59 @@ private Q_SLOTS:
         QVERIFY(hasFocus(u"9月1日"_qs));
     }
 
+    // A day that nobody went to by key had the ring.
+    void comingBackByPointerGivesNoDayTheRing()
+    {
+        showIndex();
+        ScreenReader::click(window().awaited(entry(u"9月1日"_qs), QAccessible::Button));
+        window().settle();
+        ScreenReader::click(window().awaited(u"回往期索引"_qs, QAccessible::Button));
+        window().settle();
+        auto* const day = window().awaited(entry(u"9月1日"_qs), QAccessible::Button);
+        QVERIFY(!day->property("visualFocus").toBool());
+        QVERIFY(ScreenReader::isWithin(window().find(u"往期精选"_qs, QAccessible::List),
+                                       window().window()->activeFocusItem()));
+    }
+
+    void aLongDayIsOneCard()
+    {
+        show({.name = {},
+              .prepare =
+                  [](SampleModel& sample) {
+                      SelectionDay day{u"2026-09-02"_qs, {}, 40};
+                      for (int i = 0; i < 30; ++i) {
+                          const auto id = u"s%1"_qs.arg(i);
+                          sample.signals.append(sampleSignal(id));
+                          day.focusSignalIds.append(id);
+                      }
+                      sample.selectionDays = {{u"2026-09-01"_qs, {u"a"_qs}, 1}, day};
+                  },
+              .act = ScreenTour::goTo(Surface::Archive)});
+        QCOMPARE(countShown(u"9月2日"_qs), 1);
+        QCOMPARE(countShown(u"星期三"_qs), 1);
+        QCOMPARE(countShown(u"今天"_qs), 1);
+
+        auto* const first = window().awaited(u"Title of s11"_qs + trail, QAccessible::StaticText);
+        auto* const next = window().awaited(u"Title of s12"_qs + trail, QAccessible::StaticText);
+        QCOMPARE(ScreenReader::place(next).top(), ScreenReader::place(first).bottom() + 5);
+    }
+
+    void aLaneThatDoesNotFitBeginsItsOwnLineWithItsName()
+    {
+        show({.name = {},
+              .prepare =
+                  [](SampleModel& sample) {
+                      sample.signals.first().title = u"长"_qs.repeated(36);
+                      sample.selectionDays = {{u"2026-09-01"_qs, {u"a"_qs, u"d"_qs}, 2}};
+                  },
+              .act = ScreenTour::goTo(Surface::Archive)});
+        auto* const full = window().awaited(u"长"_qs.repeated(36) + trail, QAccessible::StaticText);
+        QCOMPARE(shownTexts(full), (QStringList{u"长"_qs.repeated(36), u"产品雷达"_qs}));
+        auto* const fitting =
+            window().awaited(u"Title of d · 开源增长"_qs, QAccessible::StaticText);
+        QCOMPARE(shownTexts(fitting), (QStringList{u"Title of d"_qs, u" · "_qs, u"开源增长"_qs}));
+    }
+
     void theKeysWalkALongIndex()
     {
         show({.name = {},
@@ -105,6 +160,32 @@ private:
 
     WorkbenchWindow& window() { return m_visit->window(); }
     InformationModel& model() { return m_visit->model(); }
+
+    const QString trail = u" · 产品雷达"_qs;
+
+    static QStringList shownTexts(const QQuickItem* paragraph)
+    {
+        QStringList texts;
+        for (const QQuickItem* text : paragraph->childItems()) {
+            if (text->isVisible()) {
+                texts.append(text->property("text").toString());
+            }
+        }
+        return texts;
+    }
+
+    int countShown(const QString& text)
+    {
+        int count = 0;
+        auto* const index = window().find(u"往期精选"_qs, QAccessible::List);
+        const auto items = index->findChildren<QQuickItem*>();
+        for (const auto* item : items) {
+            const bool shows = item->inherits("QQuickText") && item->isVisible() &&
+                               item->property("text").toString() == text;
+            count += shows ? 1 : 0;
+        }
+        return count;
+    }
 
     static QString entry(const QString& day) { return u"查看%1的完整精选"_qs.arg(day); }
 

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTest>
 
 #include <algorithm>
 
@@ -46,7 +47,7 @@ private Q_SLOTS:
 
         QStringList unlisted;
         for (const QString& shown : std::as_const(m_shownNow)) {
-            if (!take(shown) && !takeParts(shown)) {
+            if (!takeWhole(shown)) {
                 unlisted.append(shown);
             }
         }
@@ -123,14 +124,15 @@ private:
         return listed;
     }
 
-    /// The same for what a screen reader is told of a card, or of a button in two lines.
-    bool takeParts(const QString& shown)
+    /// The same for what a screen reader is told of a card or a button in several lines and parts.
+    bool takeWhole(const QString& shown)
     {
-        return std::ranges::any_of(QString(u"\n，"_qs), [this, &shown](QChar joint) {
-            const auto parts = shown.split(joint);
-            return parts.size() > 1 &&
-                   std::ranges::all_of(parts, [this](const QString& part) { return take(part); });
-        });
+        return take(shown) || std::ranges::any_of(u"\n，"_qs, [this, &shown](QChar joint) {
+                   const auto parts = shown.split(joint);
+                   return parts.size() > 1 &&
+                          std::ranges::all_of(
+                              parts, [this](const QString& part) { return takeWhole(part); });
+               });
     }
 
     QList<FixedText> m_texts;

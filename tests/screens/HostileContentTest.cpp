@@ -10,6 +10,7 @@
 #include <QQmlAbstractUrlInterceptor>
 #include <QQmlNetworkAccessManagerFactory>
 #include <QSet>
+#include <QTest>
 
 #include <algorithm>
 

@@ -1,6 +1,10 @@
 #include "Browser.h"
 #include "ScreenTour.h"
+#include "SiteDocuments.h"
 #include "Subject.h"
+
+#include <QQmlProperty>
+#include <QTest>
 
 /// The sheet with a signal's whole thread.
 class InformationThreadViewTest : public QObject
@@ -48,6 +52,59 @@ private Q_SLOTS:
             model().closeThread();
             QTRY_VERIFY(!window().find(title, QAccessible::Dialog));
         }
+    }
+
+    // It waited for the sheet to have come up.
+    void theSignalIsSeenAtOnce()
+    {
+        window().window()->setProperty("reducedMotion", false);
+        model().openThread(u"a"_qs);
+        QVERIFY(model().workspace().seenTargets.contains(u"a"_qs));
+    }
+
+    void itFollowsASync()
+    {
+        open(u"a"_qs);
+        m_visit->sample().site->answers.insert(
+            SiteClient::packPath,
+            SiteReply{.body = SiteDocuments::pack(u"2026-09-03T00:00:00.000Z"_qs, {u"a"_qs}),
+                      .status = 200});
+        QVERIFY(window().find(u"页内要点"_qs, QAccessible::Heading));
+        model().refreshPackFromSite();
+        QTRY_VERIFY(!window().find(u"页内要点"_qs, QAccessible::Heading));
+    }
+
+    // It looked like a field with a fault.
+    void theNoteHasTheRingForTheKeyboardAlone_data()
+    {
+        QTest::addColumn<Qt::FocusReason>("reason");
+        QTest::addColumn<bool>("ring");
+        QTest::newRow("by Tab") << Qt::TabFocusReason << true;
+        QTest::newRow("by pointer") << Qt::MouseFocusReason << false;
+    }
+
+    void theNoteHasTheRingForTheKeyboardAlone()
+    {
+        QFETCH(const Qt::FocusReason, reason);
+        QFETCH(const bool, ring);
+        model().toggleKeep(u"a"_qs);
+        open(u"a"_qs);
+        note()->forceActiveFocus(reason);
+        auto* const ground = note()->property("background").value<QQuickItem*>();
+        QCOMPARE(QQmlProperty::read(ground, u"border.width"_qs).toInt(), 1);
+        auto* const shown = ScreenReader::findIf(ground, [](QQuickItem* item) {
+            return item->metaObject()->indexOfProperty("shown") >= 0;
+        });
+        QCOMPARE(shown != nullptr, ring);
+    }
+
+    void closingByPointerLeavesACompositionToTheNote()
+    {
+        openKept();
+        QTest::mousePress(
+            window().window(), Qt::LeftButton, {},
+            ScreenReader::place(window().find(u"关闭"_qs, QAccessible::Button)).center().toPoint());
+        QVERIFY(note()->hasActiveFocus());
     }
 
     void itsLinksOpenWhatCanBeOpened()

@@ -1,6 +1,9 @@
 #include "Browser.h"
 #include "ScreenTour.h"
+#include "SiteDocuments.h"
 #include "Subject.h"
+
+#include <QTest>
 
 /// The kept items under the reader's hands.
 class KeptSurfaceTest : public QObject
@@ -49,13 +52,59 @@ private Q_SLOTS:
     {
         show({u"a"_qs}, {u"一"_qs});
 
-        window().press(u"移除"_qs);
+        removeByKey();
         QCOMPARE(model().keptItemCount(), 1);
         QTRY_VERIFY(window().hasFocus(u"一"_qs, QAccessible::ListItem));
 
-        window().press(u"移除"_qs);
+        removeByKey();
         QCOMPARE(model().keptItemCount(), 0);
         QTRY_VERIFY(window().hasFocus(u"搜索已收下"_qs, QAccessible::EditableText));
+    }
+
+    // A row that nobody went to by key had the ring.
+    void removingByPointerGivesNoRowTheRing()
+    {
+        show({u"a"_qs}, {u"一"_qs});
+        ScreenReader::click(window().awaited(u"移除"_qs, QAccessible::Button));
+        window().settle();
+        QCOMPARE(model().keptItemCount(), 1);
+        auto* const row = window().awaited(u"一"_qs, QAccessible::ListItem);
+        QVERIFY(!row->property("visualFocus").toBool());
+        QVERIFY(ScreenReader::isWithin(window().find(u"已收下"_qs, QAccessible::List),
+                                       window().window()->activeFocusItem()));
+    }
+
+    // The search had no ring any more.
+    void theSearchHasItsRingAgainWhenTheReaderComesBack()
+    {
+        show({});
+        window().pressKey(Qt::Key_F, Qt::ControlModifier);
+        auto* const search = window().find(u"搜索已收下"_qs, QAccessible::EditableText);
+        QVERIFY(search->property("visualFocus").toBool());
+        QWindow other;
+        other.show();
+        other.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(!search->property("visualFocus").toBool());
+        window().window()->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(window().window()));
+        QVERIFY(search->property("visualFocus").toBool());
+    }
+
+    void theRowsFollowASync()
+    {
+        show({u"a"_qs});
+        m_visit->sample().site->answers.insert(
+            SiteClient::packPath,
+            SiteReply{.body = SiteDocuments::pack(u"2026-09-03T00:00:00.000Z"_qs, {u"a"_qs}),
+                      .status = 200});
+        const auto status = [this] {
+            auto* const row = window().find(u"Title of a"_qs, QAccessible::ListItem);
+            return row ? ScreenReader::description(row) : QString();
+        };
+        QVERIFY(status().contains(u"Source of a"_qs));
+        model().refreshPackFromSite();
+        QTRY_VERIFY(!status().contains(u"Source of a"_qs));
     }
 
     void theKeysWalkTheRows()
@@ -74,6 +123,12 @@ private Q_SLOTS:
     }
 
 private:
+    void removeByKey()
+    {
+        window().awaited(u"移除"_qs, QAccessible::Button)->forceActiveFocus(Qt::TabFocusReason);
+        window().pressKey(Qt::Key_Return);
+    }
+
     void show(const QStringList& keptIds, const QStringList& handedIn = {})
     {
         m_visit.emplace(ScreenTour::Stop{.name = {}, .act = [&](InformationModel& model) {

@@ -1,7 +1,11 @@
 #include "ScreenTour.h"
+#include "SiteDocuments.h"
 #include "Subject.h"
 
 #include <QSet>
+#include <QTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -78,7 +82,7 @@ private Q_SLOTS:
              {u"获取更新"_qs, u"关闭更新提示"_qs, u"今天"_qs, u"同步站点"_qs, u"添加信息"_qs,
               u"全部 6"_qs, u"Title of a"_qs, u"从工作台移除并停止更新：Title of a"_qs,
               u"Title of c"_qs, u"打开脉络：Title of a"_qs, u"往期精选"_qs, u"RSS"_qs, u"撤销"_qs,
-              u"关闭回执"_qs}) {
+              u"关闭回执"_qs, u"最小化"_qs, u"关闭窗口"_qs}) {
             const auto position = names.indexOf(name);
             QVERIFY2(position > last, qPrintable(name));
             last = position;

@@ -2,6 +2,8 @@
 #include "ScreenTour.h"
 #include "Subject.h"
 
+#include <QTest>
+
 /// The sources under the reader's hands.
 class SourcesViewTest : public QObject
 {

@@ -1,6 +1,10 @@
 #include "ScreenTour.h"
 #include "Subject.h"
 
+#include <QTest>
+
+#include <algorithm>
+
 /// Today's surface under the reader's hands.
 class TodaySurfaceTest : public QObject
 {
@@ -121,6 +125,86 @@ private Q_SLOTS:
                     .endsWith(u"，已看过"));
     }
 
+    void theRemainingCardsUnfold()
+    {
+        window().window()->setProperty("reducedMotion", false);
+        auto* const surface = find(u"今天先看 3 条"_qs, QAccessible::List)->parentItem();
+        ScreenReader::press(find(disclosure, QAccessible::Button));
+        QCOMPARE(surface->property("unfolded").toReal(), 0);
+        auto* const card = window().awaited(u"Title of d"_qs, QAccessible::ListItem);
+        QVERIFY(card);
+        QTRY_COMPARE(surface->property("unfolded").toReal(), 1);
+
+        surface->setProperty("unfolded", 0.5);
+        const auto* const row = rowAround(card);
+        QTRY_VERIFY(row->opacity() > 0 && row->opacity() < 1);
+        QVERIFY(row->height() < ScreenReader::place(card).height());
+        QTRY_COMPARE(row->opacity(), 0.5);
+
+        ScreenReader::press(find(disclosure, QAccessible::Button));
+        QVERIFY(find(u"Title of d"_qs, QAccessible::ListItem));
+        QTRY_VERIFY(!find(u"Title of d"_qs, QAccessible::ListItem));
+    }
+
+    // It was folded again once its card had been out of reach.
+    void whatChangedStaysUnfolded()
+    {
+        window().press(u"看变化"_qs);
+        QVERIFY(find(u"这次变了什么"_qs, QAccessible::Heading));
+        model().setActiveLane(InformationLane::FounderStory);
+        window().settle();
+        QVERIFY(!find(u"这次变了什么"_qs, QAccessible::Heading));
+        model().setActiveLane(std::nullopt);
+        window().settle();
+        QVERIFY(find(u"这次变了什么"_qs, QAccessible::Heading));
+    }
+
+    void aLaneWithoutACardLeadsBackToAll()
+    {
+        model().reduceSimilar(u"e"_qs);
+        model().setActiveLane(InformationLane::FounderStory);
+        window().settle();
+        QVERIFY(find(u"这一类今天没有条目"_qs, QAccessible::Heading));
+        window().press(u"看全部"_qs);
+        QCOMPARE(model().activeLane(), std::nullopt);
+        QVERIFY(!find(u"这一类今天没有条目"_qs, QAccessible::Heading));
+    }
+
+    void theChipsKeepToOneLine()
+    {
+        m_visit.emplace(ScreenTour::Stop{.name = {},
+                                         .prepare =
+                                             [](SampleModel& sample) {
+                                                 for (const auto& [lane, token] :
+                                                      vocabulary<InformationLane>) {
+                                                     addTen(sample, lane);
+                                                 }
+                                             }},
+                        QSize(1120, 780));
+        const auto first = ScreenReader::place(find(u"全部 66"_qs, QAccessible::RadioButton));
+        const auto last = ScreenReader::place(find(u"平台变化 11"_qs, QAccessible::RadioButton));
+        QCOMPARE(last.top(), first.top());
+    }
+
+    void aChipTakesAScreenReadersToggle()
+    {
+        auto* const chip = find(u"创业复盘 1"_qs, QAccessible::RadioButton);
+        QAccessible::queryAccessibleInterface(chip)->actionInterface()->doAction(
+            QAccessibleActionInterface::toggleAction());
+        QCOMPARE(model().activeLane(), InformationLane::FounderStory);
+    }
+
+    void theLastLineOfTheListIsNotDimmed()
+    {
+        auto* const list = find(u"今日全部"_qs, QAccessible::List);
+        const auto* const fade = fadeBeside(list);
+        QVERIFY(fade && fade->isVisible());
+        focus(u"打开脉络：Title of a"_qs, QAccessible::Button);
+        window().pressKey(Qt::Key_End);
+        QVERIFY(list->property("atYEnd").toBool());
+        QVERIFY(!fade->isVisible());
+    }
+
     void theAdjustmentsCanBeReset()
     {
         model().reduceSimilar(u"a"_qs);
@@ -153,6 +237,35 @@ private Q_SLOTS:
     }
 
 private:
+    const QString disclosure = u"其余 3 条已替你排好，需要时再展开，不会丢失。"_qs;
+
+    static void addTen(SampleModel& sample, InformationLane lane)
+    {
+        for (int i = 0; i < 10; ++i) {
+            auto signal = sampleSignal(rawValue(lane) + QString::number(i));
+            signal.lane = lane;
+            sample.signals.append(signal);
+        }
+    }
+
+    /// The list's row that the item is in.
+    static const QQuickItem* rowAround(const QQuickItem* item)
+    {
+        while (item && item->metaObject()->indexOfProperty("unfolded") < 0) {
+            item = item->parentItem();
+        }
+        return item;
+    }
+
+    static const QQuickItem* fadeBeside(const QQuickItem* list)
+    {
+        const auto siblings = list->parentItem()->childItems();
+        const auto fade = std::ranges::find_if(siblings, [](const QQuickItem* item) {
+            return item->inherits("QQuickRectangle") && item->height() == 24;
+        });
+        return fade == siblings.cend() ? nullptr : *fade;
+    }
+
     WorkbenchWindow& window() { return m_visit->window(); }
     InformationModel& model() { return m_visit->model(); }
 

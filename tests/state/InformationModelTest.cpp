@@ -1,20 +1,12 @@
-#include "InformationModel.h"
-#include "FakeSiteClient.h"
-#include "InformationIntake.h"
+#include "FourSignals.h"
 #include "InformationProjection.h"
-#include "MemoryFileManager.h"
-#include "SampleSignal.h"
 #include "Subject.h"
 
-#include <QSignalSpy>
 #include <QTest>
-
-#include <memory>
 
 namespace {
 
 const QString workspacePath = u"/support/Corvanite/Information/workspace-v1.json"_qs;
-constexpr double keptTime = 1788220800.75;
 
 } // namespace
 
@@ -22,71 +14,25 @@ class InformationModelTest : public QObject
 {
     Q_OBJECT
 
-private:
-    MemoryFileManager m_files;
-    FakeSiteClient m_site;
-    double m_now = keptTime;
-    QList<InformationSignal> m_signals;
-    QList<InformationSignal> m_retired;
-    QList<SelectionDay> m_days;
-    QString m_asOf;
-    QList<SelectionDay> m_seedHistory;
-
-    std::unique_ptr<InformationModel> makeModel()
-    {
-        return makeModel(InformationWorkspaceRepository::live(m_files).value());
-    }
-
-    std::unique_ptr<InformationModel>
-    makeModel(const std::optional<InformationWorkspaceRepository>& repository)
-    {
-        return std::make_unique<InformationModel>(
-            InformationModel::Collaborators{.fileManager = m_files,
-                                            .now = [this] { return m_now; },
-                                            .seedHistory = m_seedHistory,
-                                            .site = m_site,
-                                            .runningVersion = u"1.0.0"_qs},
-            InformationContent(m_signals, m_retired, m_days, m_asOf), repository);
-    }
-
-    InformationWorkspace stored() const
-    {
-        return InformationWorkspaceRepository::live(m_files).value().load(m_files).value();
-    }
-
 private Q_SLOTS:
-    void init()
-    {
-        m_files = MemoryFileManager();
-        m_now = keptTime;
-        m_signals = {sampleSignal(u"a"_qs), sampleSignal(u"b"_qs), sampleSignal(u"c"_qs),
-                     sampleSignal(u"d"_qs)};
-        m_signals[1].lane = InformationLane::Workflow;
-        m_retired = {sampleSignal(u"old"_qs)};
-        m_days = {{u"2026-09-01"_qs, {u"a"_qs, u"old"_qs}, 4},
-                  {u"2026-09-02"_qs, {u"b"_qs, u"gone"_qs}, 3}};
-        m_asOf = u"2026-09-02T04:00:00.000Z"_qs;
-        m_seedHistory = {};
-    }
-
-    // Start
+    void init() { m_sample = fourSignals(); }
 
     void startsEmptyWithoutAFileAndMakesNone()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
 
         QCOMPARE(model->workspace(), InformationWorkspace());
         QVERIFY(!model->errorMessage());
-        QVERIFY(m_files.files.isEmpty());
-        QVERIFY(m_files.folders.isEmpty());
+        QVERIFY(m_sample.files.files.isEmpty());
+        QVERIFY(m_sample.files.folders.isEmpty());
     }
 
     void anUnreadableWorkspaceIsReportedAndNeverOverwritten()
     {
         const QByteArray newer = R"({"version": 4})";
-        m_files.files.insert(workspacePath, newer);
+        m_sample.files.files.insert(workspacePath, newer);
 
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         QCOMPARE(model->errorMessage(), u"已有信息没有被覆盖：信息资料库版本 4 暂不受支持。"_qs);
 
         model->toggleKeep(u"a"_qs);
@@ -94,268 +40,31 @@ private Q_SLOTS:
         QCOMPARE(model->workspace(), InformationWorkspace());
         QVERIFY(!model->receipt());
         QVERIFY(!model->canUndo());
-        QCOMPARE(m_files.files.value(workspacePath), newer);
+        QCOMPARE(m_sample.files.files.value(workspacePath), newer);
     }
 
     void withoutARepositoryNothingIsReportedUntilAnAction()
     {
-        const auto model = makeModel(std::nullopt);
+        m_sample.hasRepository = false;
+        const auto model = m_sample.make();
         QVERIFY(!model->errorMessage());
 
         model->resetPreferences();
         QCOMPARE(model->errorMessage(), u"没有可用的本机存储；这次操作没有保存。"_qs);
     }
 
-    // Keeping
-
-    void keepingSavesInWholeSecondsAndCanBeUndone()
-    {
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-
-        QVERIFY(model->isKept(m_signals[0]));
-        QCOMPARE(model->receipt(), u"已收下；后续实质变化会续到同一条脉络。"_qs);
-        QVERIFY(model->canUndo());
-        QCOMPARE(stored(), model->workspace());
-        const auto& entry = model->workspace().saved.at(u"a"_qs);
-        QCOMPARE(entry.savedAt.time_since_epoch().count(), 1788220800);
-        QCOMPARE(entry.saveReason, u"Why a"_qs);
-
-        model->undoLastAction();
-        QVERIFY(!model->isKept(m_signals[0]));
-        QCOMPARE(model->receipt(), u"已撤销上一步操作。"_qs);
-        QVERIFY(!model->canUndo());
-        QCOMPARE(stored(), InformationWorkspace());
-    }
-
-    void keepReceipts_data()
-    {
-        QTest::addColumn<InformationFollowUpdateMode>("mode");
-        QTest::addColumn<QString>("receipt");
-        QTest::newRow("verified change") << InformationFollowUpdateMode::VerifiedChange
-                                         << u"已收下；后续实质变化会续到同一条脉络。"_qs;
-        QTest::newRow("snapshot baseline") << InformationFollowUpdateMode::SnapshotBaseline
-                                           << u"已收下；完整核验后的变化会续到同一条脉络。"_qs;
-        QTest::newRow("editorial watch")
-            << InformationFollowUpdateMode::EditorialWatch
-            << u"已收下；这个来源尚未接入自动更新，不会冒充已经同步。"_qs;
-    }
-
-    void keepReceipts()
-    {
-        QFETCH(InformationFollowUpdateMode, mode);
-        QFETCH(QString, receipt);
-        m_signals[0].followTarget.updateMode = mode;
-
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-
-        QCOMPARE(model->receipt(), receipt);
-    }
-
-    void keepingTwiceTakesTheWholeThreadAway()
-    {
-        m_signals[1].followTarget = m_signals[0].followTarget;
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-        QVERIFY(model->isKept(m_signals[1]));
-
-        model->toggleKeep(u"b"_qs);
-
-        QCOMPARE(model->receipt(), u"已从工作台移除，并停止继续更新。"_qs);
-        QVERIFY(model->workspace().saved.empty());
-        QVERIFY(model->workspace().following.isEmpty());
-    }
-
-    void keepingASavedThreadThatIsNotFollowedOnlyFollowsAgain()
-    {
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-        model->updateNote(u"a"_qs, u"我的备注"_qs);
-        auto workspace = model->workspace();
-        workspace.following.clear();
-        QVERIFY(InformationWorkspaceRepository::live(m_files)->save(workspace, m_files));
-
-        m_now += 1000;
-        const auto restarted = makeModel();
-        QVERIFY(!restarted->isKept(m_signals[0]));
-        restarted->toggleKeep(u"a"_qs);
-
-        QVERIFY(restarted->isKept(m_signals[0]));
-        QCOMPARE(restarted->workspace().saved, workspace.saved);
-    }
-
-    void theLastKeptEntryStandsForAThreadAndTheFirstKeyOnATie()
-    {
-        m_signals[1].followTarget = m_signals[0].followTarget;
-        m_signals[2].followTarget = m_signals[0].followTarget;
-        InformationWorkspace workspace;
-        const std::chrono::sys_seconds early{std::chrono::seconds(1000)};
-        const std::chrono::sys_seconds late{std::chrono::seconds(2000)};
-        workspace.saved = {
-            {u"a"_qs, {early, {}, {}}}, {u"b"_qs, {late, {}, {}}}, {u"c"_qs, {late, {}, {}}}};
-        QVERIFY(InformationWorkspaceRepository::live(m_files)->save(workspace, m_files));
-
-        QCOMPARE(makeModel()->savedEntry(m_signals[0])->first, u"b"_qs);
-    }
-
     void anUnknownSignalDoesNothing()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"nobody"_qs);
 
         QVERIFY(!model->receipt());
-        QVERIFY(m_files.files.isEmpty());
+        QVERIFY(m_sample.files.files.isEmpty());
     }
-
-    // Failing storage
-
-    void aFailedSaveRestoresEverythingAndLeavesNoUndo()
-    {
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-        const auto before = model->workspace();
-        const QByteArray fileBefore = m_files.files.value(workspacePath);
-
-        m_files.writeFailure = FileError{FileError::Reason::NoSpace};
-        model->toggleKeep(u"b"_qs);
-
-        QCOMPARE(model->workspace(), before);
-        QCOMPARE(m_files.files.value(workspacePath), fileBefore);
-        QVERIFY(!model->receipt());
-        QVERIFY(!model->canUndo());
-        QCOMPARE(model->errorMessage(),
-                 u"没有保存这次操作："_qs + m_files.writeFailure->localizedDescription());
-    }
-
-    void aFailedUndoCanBeTriedAgain()
-    {
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-
-        m_files.writeFailure = FileError{FileError::Reason::ReadOnly};
-        model->undoLastAction();
-        QVERIFY(model->canUndo());
-        QVERIFY(model->isKept(m_signals[0]));
-
-        m_files.writeFailure.reset();
-        model->undoLastAction();
-        QVERIFY(!model->canUndo());
-        QVERIFY(!model->isKept(m_signals[0]));
-    }
-
-    void aLaterSuccessLeavesTheErrorMessage()
-    {
-        const auto model = makeModel();
-        m_files.writeFailure = FileError{FileError::Reason::NoSpace};
-        model->toggleKeep(u"a"_qs);
-        m_files.writeFailure.reset();
-        model->toggleKeep(u"a"_qs);
-
-        QVERIFY(model->errorMessage());
-        model->dismissError();
-        QVERIFY(!model->errorMessage());
-    }
-
-    // Undo
-
-    void undoGoesOneStepBack()
-    {
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-        const auto afterFirst = model->workspace();
-        model->toggleKeep(u"b"_qs);
-
-        model->undoLastAction();
-        QCOMPARE(model->workspace(), afterFirst);
-        model->undoLastAction();
-        QCOMPARE(model->workspace(), afterFirst);
-    }
-
-    void seeingNeitherFillsNorClearsUndo()
-    {
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-        model->markSeen(u"b"_qs);
-
-        QVERIFY(model->canUndo());
-        QVERIFY(!model->receipt());
-        QVERIFY(model->workspace().hasSeen(m_signals[1]));
-
-        model->undoLastAction();
-        QVERIFY(!model->workspace().hasSeen(m_signals[1]));
-    }
-
-    void seeingAgainSavesNothing()
-    {
-        const auto model = makeModel();
-        model->markSeen(u"a"_qs);
-        model->toggleKeep(u"b"_qs);
-        QSignalSpy changes(model.get(), &InformationModel::workspaceChanged);
-
-        model->markSeen(u"a"_qs);
-
-        QCOMPARE(changes.count(), 0);
-        QVERIFY(model->receipt());
-    }
-
-    void aNoteClearsUndoAndIsKeptAsTyped()
-    {
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-        const auto receipt = model->receipt();
-        model->updateNote(u"a"_qs, u" 备注 "_qs);
-
-        QVERIFY(!model->canUndo());
-        QCOMPARE(model->receipt(), receipt);
-        QCOMPARE(model->workspace().saved.at(u"a"_qs).note, u" 备注 "_qs);
-    }
-
-    void aNoteIsTheSameInMemoryAndInTheFile()
-    {
-        const auto model = makeModel();
-        model->updateNote(u"a"_qs, u"半个字符 "_qs + QChar(0xD83D));
-        model->addSource(u"半个字符 "_qs + QChar(0xD83D));
-
-        QCOMPARE(stored(), model->workspace());
-    }
-
-    void aNoteKeepsASignalThatIsNotKept()
-    {
-        const auto model = makeModel();
-        model->updateNote(u"b"_qs, u"备注"_qs);
-
-        QVERIFY(model->isKept(m_signals[1]));
-        QCOMPARE(model->workspace().saved.at(u"b"_qs).note, u"备注"_qs);
-    }
-
-    void aNoteOnAThreadGoesToItsEntry()
-    {
-        m_signals[1].followTarget = m_signals[0].followTarget;
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-        model->updateNote(u"b"_qs, u"备注"_qs);
-
-        QCOMPARE(model->workspace().saved.size(), size_t(1));
-        QCOMPARE(model->workspace().saved.at(u"a"_qs).note, u"备注"_qs);
-    }
-
-    void aNoteOnAnUnknownSignalOnlyClearsUndo()
-    {
-        const auto model = makeModel();
-        model->toggleKeep(u"a"_qs);
-        const auto before = model->workspace();
-        model->updateNote(u"old"_qs, u"备注"_qs);
-
-        QVERIFY(!model->canUndo());
-        QCOMPARE(model->workspace(), before);
-    }
-
-    // Preferences
 
     void reducingHidesTheVersionAndTurnsTheLaneDown()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->reduceSimilar(u"b"_qs);
 
         QCOMPARE(model->receipt(), u"已减少“工作流与方法”并收起当前这条；重要变化仍会保留。"_qs);
@@ -371,161 +80,67 @@ private Q_SLOTS:
 
     void theLaneFilterKeepsOrder()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->setActiveLane(InformationLane::ProductRadar);
 
-        QCOMPARE(model->laneFilteredSignals(), (QList{m_signals[0], m_signals[2], m_signals[3]}));
+        QCOMPARE(model->laneFilteredSignals(),
+                 (QList{m_sample.signals[0], m_sample.signals[2], m_sample.signals[3]}));
     }
-
-    // Hand-ins
-
-    void anAddressOfASignalKeepsTheSignal()
-    {
-        const auto model = makeModel();
-        QVERIFY(model->addSource(u"https://origin.example/c"_qs));
-
-        QVERIFY(model->isKept(m_signals[2]));
-        QVERIFY(model->workspace().customSources.isEmpty());
-        QCOMPARE(model->surface(), InformationModel::Surface::Kept);
-        QCOMPARE(model->receipt(), u"已收下；后续实质变化会续到同一条脉络。"_qs);
-
-        QVERIFY(model->addSource(u"https://target.example/c/"_qs));
-        QCOMPARE(model->receipt(), u"“Label of target:c”已经在已收下里。"_qs);
-        QVERIFY(!model->canUndo());
-    }
-
-    void aSentenceBecomesACustomSourceOnce()
-    {
-        const auto model = makeModel();
-        QVERIFY(model->addSource(u"  跟踪 本地\n模型 "_qs));
-        QCOMPARE(model->workspace().customSources.size(), 1);
-        QCOMPARE(model->workspace().customSources.first().input, u"跟踪 本地 模型"_qs);
-        QCOMPARE(model->receipt(),
-                 u"已收下并安全保存在本机；这个来源尚未接入更新，不会冒充已经同步。"_qs);
-        QVERIFY(model->canUndo());
-        QCOMPARE(stored(), model->workspace());
-
-        QVERIFY(model->addSource(u"跟踪 本地 模型"_qs));
-        QCOMPARE(model->workspace().customSources.size(), 1);
-        QCOMPARE(model->receipt(), u"这项内容已经在已收下里，没有重复添加。"_qs);
-        QVERIFY(!model->canUndo());
-
-        model->removeSource(model->workspace().customSources.first().id);
-        QVERIFY(model->workspace().customSources.isEmpty());
-        QCOMPARE(model->receipt(), u"已移除这条内容。"_qs);
-    }
-
-    void refusedHandIns_data()
-    {
-        QTest::addColumn<QString>("input");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("empty") << u"  \n"_qs << u"请粘贴一个链接，或写一句想持续更新的内容。"_qs;
-        QTest::newRow("too long") << u"长"_qs.repeated(501)
-                                  << u"请缩短到 500 个字以内；只需说清想跟踪什么。"_qs;
-        QTest::newRow("not https")
-            << u"http://site.example"_qs
-            << u"当前只接收公开 HTTPS 网页；内网、带账号或其他协议不会接入。"_qs;
-    }
-
-    void refusedHandIns()
-    {
-        QFETCH(QString, input);
-        QFETCH(QString, message);
-        const auto model = makeModel();
-
-        QVERIFY(!model->addSource(input));
-        QCOMPARE(model->intakeErrorMessage(), message);
-        QCOMPARE(model->surface(), InformationModel::Surface::Today);
-
-        model->dismissIntakeError();
-        QVERIFY(!model->intakeErrorMessage());
-    }
-
-    void theHundredthHandInIsTakenAndTheNextRefused()
-    {
-        const auto model = makeModel();
-        for (int number = 1; number <= InformationIntake::maximumCustomSources; ++number) {
-            QVERIFY(model->addSource(u"第 %1 项"_qs.arg(number)));
-        }
-        const auto receipt = model->receipt();
-
-        QVERIFY(!model->addSource(u"再来一项"_qs));
-        QCOMPARE(model->intakeErrorMessage(),
-                 u"当前设备已收下 100 项自定义内容；先移除不再需要的一项再添加。"_qs);
-        QCOMPARE(model->receipt(), receipt);
-        QVERIFY(model->canUndo());
-    }
-
-    void aFailedHandInStaysOnItsSurface()
-    {
-        const auto model = makeModel();
-        m_files.writeFailure = FileError{FileError::Reason::NoSpace};
-
-        QVERIFY(!model->addSource(u"一句话"_qs));
-        QVERIFY(!model->addSource(u"https://origin.example/c"_qs));
-        QCOMPARE(model->surface(), InformationModel::Surface::Today);
-        QVERIFY(model->errorMessage());
-    }
-
-    // Focus
 
     void aPackStampedInMillisecondsShowsTheComputedFocus()
     {
-        m_seedHistory = {{u"2026-09-02"_qs, {u"a"_qs}, 4}};
-        const auto model = makeModel();
+        m_sample.seedHistory = {{u"2026-09-02"_qs, {u"a"_qs}, 4}};
+        const auto model = m_sample.make();
 
         QCOMPARE(model->focusedSignals(),
-                 InformationProjection::focusedToday(m_signals, {}, 3, m_asOf, m_seedHistory));
-        QVERIFY(!model->focusedSignals().contains(m_signals[0]));
+                 InformationProjection::focusedToday(m_sample.signals, {}, 3, m_sample.packAsOf,
+                                                     m_sample.seedHistory));
+        QVERIFY(!model->focusedSignals().contains(m_sample.signals[0]));
         QCOMPARE(model->focusedSignals().size() + model->remainingSignals().size(),
-                 m_signals.size());
+                 m_sample.signals.size());
     }
 
     void aPackStampedInSecondsShowsTheDaysFeaturedSignals()
     {
-        m_asOf = u"2026-09-01T16:00:00Z"_qs;
-        const auto model = makeModel();
+        m_sample.packAsOf = u"2026-09-01T16:00:00Z"_qs;
+        const auto model = m_sample.make();
 
-        QCOMPARE(model->focusedSignals(), QList{m_signals[1]});
+        QCOMPARE(model->focusedSignals(), QList{m_sample.signals[1]});
     }
 
     void aDayWhoseFeaturedSignalsAreGoneShowsTheComputedFocus()
     {
-        m_asOf = u"2026-09-02T04:00:00Z"_qs;
-        m_days = {{u"2026-09-02"_qs, {u"old"_qs, u"gone"_qs}, 3}};
-        const auto model = makeModel();
+        m_sample.packAsOf = u"2026-09-02T04:00:00Z"_qs;
+        m_sample.selectionDays = {{u"2026-09-02"_qs, {u"old"_qs, u"gone"_qs}, 3}};
+        const auto model = m_sample.make();
 
         QCOMPARE(model->focusedSignals().size(), 3);
     }
 
-    // Search
-
     void searchLooksAtTheKeptTexts()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->toggleKeep(u"a"_qs);
         model->updateNote(u"a"_qs, u"Rust 笔记"_qs);
         model->toggleKeep(u"b"_qs);
         model->addSource(u"Rust 周报"_qs);
 
         model->setSearch(u"  rust "_qs);
-        QCOMPARE(model->keptSignals(), QList{m_signals[0]});
+        QCOMPARE(model->keptSignals(), QList{m_sample.signals[0]});
         QCOMPARE(model->keptCustomSources().size(), 1);
         QCOMPARE(model->keptItemCount(), 3);
 
         model->setSearch(u"label of target:b"_qs);
-        QCOMPARE(model->keptSignals(), QList{m_signals[1]});
+        QCOMPARE(model->keptSignals(), QList{m_sample.signals[1]});
         QVERIFY(model->keptCustomSources().isEmpty());
 
         model->setSearch(u" "_qs);
         QCOMPARE(model->keptSignals().size(), 2);
     }
 
-    // Archive
-
     void onlyAKnownDayOpens()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         model->openArchiveDay(u"2026-08-30"_qs);
         QCOMPARE(model->surface(), InformationModel::Surface::Today);
         QVERIFY(!model->selectedArchiveDay());
@@ -542,23 +157,21 @@ private Q_SLOTS:
 
     void derivedLists()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
 
         QCOMPARE(model->archiveDays().first().date, u"2026-09-02"_qs);
         QCOMPARE(model->weeklyWeeks().size(), 1);
-        QCOMPARE(model->signalById(u"old"_qs), m_retired[0]);
+        QCOMPARE(model->signalById(u"old"_qs), m_sample.retiredSignals[0]);
         QVERIFY(!model->signalById(u"gone"_qs));
     }
 
-    // Observers
-
     void changeSignalsFollowTheAssignment()
     {
-        const auto model = makeModel();
+        const auto model = m_sample.make();
         bool keptWhenTold = false;
         bool canUndoWhenTold = false;
         connect(model.get(), &InformationModel::workspaceChanged, this,
-                [&] { keptWhenTold = model->isKept(m_signals[0]); });
+                [&] { keptWhenTold = model->isKept(m_sample.signals[0]); });
         connect(model.get(), &InformationModel::canUndoChanged, this,
                 [&] { canUndoWhenTold = model->canUndo(); });
 
@@ -567,6 +180,9 @@ private Q_SLOTS:
         QVERIFY(keptWhenTold);
         QVERIFY(canUndoWhenTold);
     }
+
+private:
+    SampleModel m_sample;
 };
 
 TEST_SUBJECT(InformationModelTest)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDesktopServices>
 #include <QList>
 #include <QObject>
 #include <QStringList>
@@ -13,24 +12,13 @@ class Browser : public QObject
     Q_OBJECT
 
 public:
-    explicit Browser(const QStringList& otherSchemes = {})
-        : m_schemes(QStringList{u"https"_qs, u"http"_qs} + otherSchemes)
-    {
-        for (const auto& scheme : m_schemes) {
-            QDesktopServices::setUrlHandler(scheme, this, "take");
-        }
-    }
-    ~Browser() override
-    {
-        for (const auto& scheme : m_schemes) {
-            QDesktopServices::unsetUrlHandler(scheme);
-        }
-    }
+    explicit Browser(const QStringList& otherSchemes = {});
+    ~Browser() override;
 
     QList<QUrl> opened;
 
 public Q_SLOTS:
-    void take(const QUrl& url) { opened.append(url); }
+    void take(const QUrl& url);
 
 private:
     QStringList m_schemes;

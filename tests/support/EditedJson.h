@@ -7,26 +7,7 @@
 
 /// The JSON with the value in the place that object keys and array indices lead to; undefined takes
 /// an object's key away.
-inline QJsonValue editedJson(const QJsonValue& json, const QStringList& path,
-                             const QJsonValue& value)
-{
-    if (path.isEmpty()) {
-        return value;
-    }
-    if (json.isArray()) {
-        QJsonArray array = json.toArray();
-        const int index = path.first().toInt();
-        array[index] = editedJson(array.at(index), path.sliced(1), value);
-        return array;
-    }
-    QJsonObject object = json.toObject();
-    object.insert(path.first(), editedJson(object.value(path.first()), path.sliced(1), value));
-    return object;
-}
+QJsonValue editedJson(const QJsonValue& json, const QStringList& path, const QJsonValue& value);
 
 /// @param path keys and indices separated by "/"
-inline QJsonObject editedJson(const QJsonObject& object, const QString& path,
-                              const QJsonValue& value)
-{
-    return editedJson(QJsonValue(object), path.split(QLatin1Char('/')), value).toObject();
-}
+QJsonObject editedJson(const QJsonObject& object, const QString& path, const QJsonValue& value);

@@ -12,26 +12,12 @@ public:
     /// What every write fails with.
     std::optional<FileError> writeFailure;
 
-    std::optional<QString> applicationSupportDirectory() const override
-    {
-        return m_files.applicationSupportDirectory();
-    }
-
-    std::expected<std::optional<QByteArray>, FileError> readFile(const QString& path) const override
-    {
-        return m_files.readFile(path);
-    }
-
-    std::expected<void, FileError> createDirectory(const QString& path) const override
-    {
-        return writeFailure ? std::unexpected(*writeFailure) : m_files.createDirectory(path);
-    }
-
+    std::optional<QString> applicationSupportDirectory() const override;
+    std::expected<std::optional<QByteArray>, FileError>
+    readFile(const QString& path) const override;
+    std::expected<void, FileError> createDirectory(const QString& path) const override;
     std::expected<void, FileError> replaceFile(const QString& path,
-                                               const QByteArray& bytes) const override
-    {
-        return writeFailure ? std::unexpected(*writeFailure) : m_files.replaceFile(path, bytes);
-    }
+                                               const QByteArray& bytes) const override;
 
 private:
     const InformationFileManager& m_files;

@@ -7,7 +7,6 @@
 #include <QSet>
 
 #include <coroutine>
-#include <utility>
 
 /// A site that answers as the test says, at once or when the test says so.
 class FakeSiteClient final : public SiteClient
@@ -27,44 +26,20 @@ public:
     /// Paths whose answers wait for `release`.
     QSet<QString> heldPaths;
 
-    ~FakeSiteClient() override
-    {
-        answers.clear();
-        release();
-    }
+    ~FakeSiteClient() override;
+
+    /// Answers the path with the body, and status 200.
+    void offer(const QString& path, const QByteArray& body);
 
     /// Gives the answers that wait, and holds no more.
-    void release()
-    {
-        heldPaths.clear();
-        for (const auto waiting : std::exchange(m_waiting, {})) {
-            waiting.resume();
-        }
-    }
+    void release();
 
-    QString host() const override { return u"corvanite.example"_qs; }
-    QUrl page(const QString& path) const override
-    {
-        return QUrl(u"https://corvanite.example/"_qs + path);
-    }
-
-    QCoro::Task<Answer> get(QString path, qsizetype byteLimit) override
-    {
-        requests.append({path, byteLimit});
-        co_await Turn{*this, path};
-        co_return answers.value(path, std::unexpected(SiteError::Transport));
-    }
+    QString host() const override;
+    QUrl page(const QString& path) const override;
+    QCoro::Task<Answer> get(QString path, qsizetype byteLimit) override;
 
 private:
-    struct Turn
-    {
-        FakeSiteClient& client;
-        const QString& path;
-
-        bool await_ready() const { return !client.heldPaths.contains(path); }
-        void await_suspend(std::coroutine_handle<> waiting) { client.m_waiting.append(waiting); }
-        void await_resume() const {}
-    };
+    struct Turn;
 
     QList<std::coroutine_handle<>> m_waiting;
 };

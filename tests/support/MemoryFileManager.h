@@ -21,35 +21,9 @@ public:
     QHash<QString, FileError> writeFailures;
 
     std::optional<QString> applicationSupportDirectory() const override { return supportDirectory; }
-
-    std::expected<std::optional<QByteArray>, FileError> readFile(const QString& path) const override
-    {
-        if (readFailure) {
-            return std::unexpected(*readFailure);
-        }
-        const auto file = files.constFind(path);
-        return file == files.cend() ? std::nullopt : std::optional(*file);
-    }
-
-    std::expected<void, FileError> createDirectory(const QString& path) const override
-    {
-        if (writeFailure) {
-            return std::unexpected(*writeFailure);
-        }
-        folders.insert(path);
-        return {};
-    }
-
+    std::expected<std::optional<QByteArray>, FileError>
+    readFile(const QString& path) const override;
+    std::expected<void, FileError> createDirectory(const QString& path) const override;
     std::expected<void, FileError> replaceFile(const QString& path,
-                                               const QByteArray& bytes) const override
-    {
-        if (writeFailure) {
-            return std::unexpected(*writeFailure);
-        }
-        if (const auto failure = writeFailures.constFind(path); failure != writeFailures.cend()) {
-            return std::unexpected(*failure);
-        }
-        files.insert(path, bytes);
-        return {};
-    }
+                                               const QByteArray& bytes) const override;
 };

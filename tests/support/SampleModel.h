@@ -18,21 +18,20 @@ struct SampleModel
     QList<InformationSignal> retiredSignals;
     QList<SelectionDay> selectionDays;
     QString packAsOf = u"2026-09-02T01:00:00.000Z"_qs;
+    QList<SelectionDay> seedHistory;
+    QString runningVersion = u"1.0.0"_qs;
     bool hasRepository = true;
 
+    InformationContent shown() const;
+
+    /// Puts a workspace into `files`, for the next model to begin with.
+    void store(const InformationWorkspace& workspace);
+    /// The workspace that `files` hold; a new one where they hold none.
+    InformationWorkspace stored() const;
+
     /// A model over this, which has to outlive it.
-    std::unique_ptr<InformationModel> make()
-    {
-        return std::make_unique<InformationModel>(
-            InformationModel::Collaborators{
-                .fileManager = files,
-                .now = [this] { return now; },
-                .seedHistory = {},
-                .site = *site,
-                .runningVersion = u"1.0.0"_qs,
-            },
-            InformationContent(signals, retiredSignals, selectionDays, packAsOf),
-            hasRepository ? std::optional(InformationWorkspaceRepository::live(files).value())
-                          : std::nullopt);
-    }
+    std::unique_ptr<InformationModel> make() { return make(shown(), *site, files); }
+    /// The same with content, a site and files of the test's own.
+    std::unique_ptr<InformationModel> make(const InformationContent& content, SiteClient& client,
+                                           const InformationFileManager& fileManager);
 };

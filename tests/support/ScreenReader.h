@@ -2,22 +2,13 @@
 
 #include <QAccessible>
 #include <QQuickItem>
-#include <QTest>
 
 /// Meets a window's items as a screen reader does: by name and role, and only those that show.
 namespace ScreenReader {
 
-inline QAccessible::Role role(QQuickItem* item)
-{
-    const auto* const accessible = QAccessible::queryAccessibleInterface(item);
-    return accessible ? accessible->role() : QAccessible::NoRole;
-}
+QAccessible::Role role(QQuickItem* item);
 
-inline QString name(QQuickItem* item)
-{
-    const auto* const accessible = QAccessible::queryAccessibleInterface(item);
-    return accessible ? accessible->text(QAccessible::Name) : QString();
-}
+QString name(QQuickItem* item);
 
 /// The first visible item at or below `root` for which the condition holds; null when there is
 /// none.
@@ -40,62 +31,29 @@ QQuickItem* findIf(QQuickItem* root, const Condition& condition)
 }
 
 /// The first visible item at or below `root` of that name and role; null when there is none.
-inline QQuickItem* find(QQuickItem* root, const QString& name, QAccessible::Role role)
-{
-    return findIf(root, [&](QQuickItem* item) {
-        return ScreenReader::role(item) == role && ScreenReader::name(item) == name;
-    });
-}
+QQuickItem* find(QQuickItem* root, const QString& name, QAccessible::Role role);
 
 /// The same, once it is there.
-inline QQuickItem* awaited(QQuickItem* root, const QString& name, QAccessible::Role role)
-{
-    QQuickItem* found = nullptr;
-    return QTest::qWaitFor([&] { return (found = find(root, name, role)) != nullptr; }) ? found
-                                                                                        : nullptr;
-}
+QQuickItem* awaited(QQuickItem* root, const QString& name, QAccessible::Role role);
 
 /// Whether the item stands below `root`.
-inline bool isWithin(const QQuickItem* root, const QQuickItem* item)
-{
-    while (item && item != root) {
-        item = item->parentItem();
-    }
-    return root && item == root;
-}
+bool isWithin(const QQuickItem* root, const QQuickItem* item);
 
 /// What the item scrolls with, or is; null when it stands still.
-inline QQuickItem* paneAround(QQuickItem* item)
-{
-    while (item && !item->inherits("QQuickFlickable")) {
-        item = item->parentItem();
-    }
-    return item;
-}
+QQuickItem* paneAround(QQuickItem* item);
 
 /// Where the item is in the window.
-inline QRectF place(const QQuickItem* item)
-{
-    return item->mapRectToScene({0, 0, item->width(), item->height()});
-}
+QRectF place(const QQuickItem* item);
 
-inline QString description(QQuickItem* item)
-{
-    return QAccessible::queryAccessibleInterface(item)->text(QAccessible::Description);
-}
+QString description(QQuickItem* item);
 
 /// Does what a screen reader's user does to activate the item.
-inline void press(QQuickItem* item)
-{
-    QAccessible::queryAccessibleInterface(item)->actionInterface()->doAction(
-        QAccessibleActionInterface::pressAction());
-}
+void press(QQuickItem* item);
+
+/// Clicks with the pointer on the item's middle.
+void click(const QQuickItem* item);
 
 /// As when a screen reader starts: controls then say their roles anew.
-inline void start()
-{
-    QAccessible::setActive(false);
-    QAccessible::setActive(true);
-}
+void start();
 
 } // namespace ScreenReader

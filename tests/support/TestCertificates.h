@@ -1,24 +1,17 @@
 #pragma once
 
-#include <QFile>
-#include <QProcess>
 #include <QSslCertificate>
 #include <QSslConfiguration>
-#include <QSslKey>
 #include <QTemporaryDir>
 
 /// A certificate authority made for one run of a test, and TLS servers' certificates of every kind.
 class TestCertificates
 {
 public:
-    TestCertificates()
-    {
-        requestCertificate(u"authority"_qs, u"127.0.0.1"_qs);
-        openssl(
-            u"x509 -req -in authority.csr -signkey authority.key -days 2 -out authority.pem"_qs);
-    }
+    TestCertificates();
 
-    QSslCertificate authority() const { return QSslCertificate(read(u"authority.pem"_qs)); }
+    /// Has this process trust the authority, and no other.
+    void trust() const;
 
     /// For 127.0.0.1.
     QSslConfiguration trusted() const { return signedBy(authoritySigns, u"127.0.0.1"_qs, 2); }
@@ -33,43 +26,10 @@ private:
     static constexpr QLatin1StringView authoritySigns{"-CA authority.pem -CAkey authority.key"};
     static constexpr QLatin1StringView selfSigns{"-signkey server.key"};
 
-    QSslConfiguration signedBy(QLatin1StringView signer, const QString& address, int days) const
-    {
-        requestCertificate(u"server"_qs, address);
-        openssl(u"x509 -req -in server.csr -copy_extensions copy -days %1 -out server.pem %2"_qs
-                    .arg(days)
-                    .arg(signer));
-        auto configuration = QSslConfiguration::defaultConfiguration();
-        configuration.setLocalCertificate(QSslCertificate(read(u"server.pem"_qs)));
-        configuration.setPrivateKey(QSslKey(read(u"server.key"_qs), QSsl::Ec));
-        return configuration;
-    }
-
-    void requestCertificate(const QString& name, const QString& address) const
-    {
-        openssl(u"req -new -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout %1.key "
-                "-subj /CN=%1 -addext subjectAltName=IP:%2 -out %1.csr"_qs.arg(name, address));
-    }
-
-    void openssl(const QString& arguments) const
-    {
-        QProcess process;
-        process.setWorkingDirectory(m_folder.path());
-        process.start(u"openssl"_qs, arguments.split(u' '));
-        if (!process.waitForFinished() || process.exitCode() != 0) {
-            qFatal("openssl %s: %s", qPrintable(arguments),
-                   process.readAllStandardError().constData());
-        }
-    }
-
-    QByteArray read(const QString& name) const
-    {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::ReadOnly)) {
-            qFatal("%s was not made.", qPrintable(name));
-        }
-        return file.readAll();
-    }
+    QSslConfiguration signedBy(QLatin1StringView signer, const QString& address, int days) const;
+    void requestCertificate(const QString& name, const QString& address) const;
+    void openssl(const QString& arguments) const;
+    QByteArray read(const QString& name) const;
 
     QTemporaryDir m_folder;
 };

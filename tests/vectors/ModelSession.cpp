@@ -23,20 +23,18 @@ QString surfaceName(InformationModel::Surface surface)
 
 } // namespace
 
-ModelSession::ModelSession(const QJsonObject& start)
-    : m_files(m_memory),
-      m_seedHistory(VectorFixtures::selectionDays(start.value(QLatin1StringView("seedHistory")))),
-      m_repository(InformationWorkspaceRepository::live(m_files).value())
+ModelSession::ModelSession(const QJsonObject& start) : m_files(m_sample.files)
 {
     using namespace VectorFixtures;
     if (start.contains(QLatin1StringView("workspace"))) {
-        m_repository
-            ->save(workspace(start.value(QLatin1StringView("workspace")).toObject()), m_files)
+        InformationWorkspaceRepository::live(m_files)
+            .value()
+            .save(workspace(start.value(QLatin1StringView("workspace")).toObject()), m_files)
             .value();
     }
-    if (!start.value(QLatin1StringView("storage")).toBool(true)) {
-        m_repository.reset();
-    }
+    m_sample.now = 0;
+    m_sample.seedHistory = selectionDays(start.value(QLatin1StringView("seedHistory")));
+    m_sample.hasRepository = start.value(QLatin1StringView("storage")).toBool(true);
     this->start(InformationContent(shortSignals(start.value(QLatin1StringView("signals"))),
                                    shortSignals(start.value(QLatin1StringView("retired"))),
                                    selectionDays(start.value(QLatin1StringView("selectionDays"))),
@@ -46,12 +44,11 @@ ModelSession::ModelSession(const QJsonObject& start)
     m_model->setSearch(start.value(QLatin1StringView("search")).toString());
 }
 
-ModelSession::ModelSession(const InformationFileManager& files, bool hasStorage)
-    : m_files(files), m_seedHistory(InformationSeed::selectionHistory())
+ModelSession::ModelSession(const InformationFileManager& files, bool hasStorage) : m_files(files)
 {
-    if (hasStorage) {
-        m_repository = InformationWorkspaceRepository::live(m_files).value();
-    }
+    m_sample.now = 0;
+    m_sample.seedHistory = InformationSeed::selectionHistory();
+    m_sample.hasRepository = hasStorage;
     start(InformationContent::atStart(m_files));
     for (const auto& source : m_model->workspace().customSources) {
         m_storedUuids.append(source.id);
@@ -60,21 +57,13 @@ ModelSession::ModelSession(const InformationFileManager& files, bool hasStorage)
 
 void ModelSession::start(const InformationContent& content)
 {
-    m_model = std::make_unique<InformationModel>(
-        InformationModel::Collaborators{
-            .fileManager = m_files,
-            .now = [this] { return m_now; },
-            .seedHistory = m_seedHistory,
-            .site = m_site,
-            .runningVersion = u"1.0.0"_qs,
-        },
-        content, m_repository);
+    m_model = m_sample.make(content, *m_sample.site, m_files);
 }
 
 QJsonValue ModelSession::perform(const QJsonObject& action)
 {
     if (action.contains(QLatin1StringView("now"))) {
-        m_now =
+        m_sample.now =
             InformationProjection::parseISODate(action.value(QLatin1StringView("now")).toString())
                 .value();
     }
@@ -184,7 +173,7 @@ void ModelSession::refresh(const QJsonObject& action)
             reply,
             VectorFixtures::scriptDocument(reply.toObject().value(QLatin1StringView("doc"))));
     };
-    m_site.answers = {
+    m_sample.site->answers = {
         {SiteClient::packPath, answer(QLatin1StringView("pack"))},
         {SiteClient::retiredSignalsPath, answer(QLatin1StringView("retired"))},
     };
@@ -193,10 +182,11 @@ void ModelSession::refresh(const QJsonObject& action)
 
 QJsonValue ModelSession::storedWorkspace()
 {
-    if (!m_repository) {
+    if (!m_sample.hasRepository) {
         return QJsonValue::Null;
     }
-    const auto bytes = m_files.readFile(m_repository->filePath).value();
+    const auto path = InformationWorkspaceRepository::live(m_files).value().filePath;
+    const auto bytes = m_files.readFile(path).value();
     return bytes ? withNumberedUuids(QJsonDocument::fromJson(*bytes).object())
                  : QJsonValue(QJsonValue::Null);
 }

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "FailingFileManager.h"
-#include "FakeSiteClient.h"
-#include "InformationModel.h"
-#include "MemoryFileManager.h"
+#include "SampleModel.h"
 
 #include <QHash>
 #include <QJsonObject>
@@ -45,12 +43,8 @@ private:
     QUuid uuidOfNumber(const QString& numbered) const;
     QJsonObject withNumberedUuids(QJsonObject fileForm);
 
-    const MemoryFileManager m_memory;
+    SampleModel m_sample;
     FailingFileManager m_files;
-    FakeSiteClient m_site;
-    QList<SelectionDay> m_seedHistory;
-    std::optional<InformationWorkspaceRepository> m_repository;
-    double m_now = 0;
     /// What the injected storage failure is called in the case.
     QString m_failureReason;
     /// Those stored from the start, which the case names as they are.

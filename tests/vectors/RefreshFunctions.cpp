@@ -1,8 +1,6 @@
 #include "VectorFunctions.h"
 
-#include "FakeSiteClient.h"
-#include "InformationModel.h"
-#include "MemoryFileManager.h"
+#include "SampleModel.h"
 #include "VectorFixtures.h"
 
 #include <QJsonArray>
@@ -13,70 +11,63 @@ constexpr FileError injectedFailure{FileError::Reason::InputOutput};
 
 // Sets the site's answer and, where the reply says so, lets storing it fail.
 void offer(const QJsonValue& reply, QLatin1StringView path, const QString& file,
-           FakeSiteClient& site, MemoryFileManager& files)
+           SampleModel& sample)
 {
     const QJsonObject object = reply.toObject();
     const auto body =
         VectorFixtures::document(object.value(QLatin1StringView("doc")).toObject()).value();
-    site.answers.insert(path, VectorFixtures::siteAnswer(reply, body));
+    sample.site->answers.insert(path, VectorFixtures::siteAnswer(reply, body));
     if (object.value(QLatin1StringView("saveFails")).toBool()) {
-        files.writeFailures.insert(file, injectedFailure);
+        sample.files.writeFailures.insert(file, injectedFailure);
     }
 }
 
 // Whether the file holds what the site sent.
-QJsonValue storedFile(const MemoryFileManager& files, const QString& file,
-                      const SiteClient::Answer& answer)
+QJsonValue storedFile(const SampleModel& sample, const QString& file, QLatin1StringView path)
 {
-    if (!files.files.contains(file)) {
+    const auto& files = sample.files.files;
+    if (!files.contains(file)) {
         return QJsonValue::Null;
     }
-    return answer && files.files.value(file) == answer->body ? u"downloaded"_qs
-                                                             : u"something else"_qs;
+    const auto answer = sample.site->answers.value(path);
+    return answer && files.value(file) == answer->body ? u"downloaded"_qs : u"something else"_qs;
 }
 
 QJsonValue refreshPackFromSite(const QJsonObject& in)
 {
     using namespace VectorFixtures;
-    MemoryFileManager files;
-    const QString directory = InformationPackSync::liveDirectory(files).value();
+    SampleModel sample;
+    sample.hasRepository = false;
+    sample.signals = shortSignals(in.value(QLatin1StringView("signals")));
+    sample.retiredSignals = shortSignals(in.value(QLatin1StringView("retired")));
+    sample.selectionDays = selectionDays(in.value(QLatin1StringView("selectionDays")));
+    sample.packAsOf = in.value(QLatin1StringView("asOf")).toString();
+    const QString directory = InformationPackSync::liveDirectory(sample.files).value();
     const QString packFile = directory + u"/information-pack.json"_qs;
     const QString retiredFile = directory + u"/retired-signals.json"_qs;
     if (!in.value(QLatin1StringView("directory")).toBool()) {
-        files.supportDirectory.reset();
+        sample.files.supportDirectory.reset();
     }
-    FakeSiteClient site;
-    offer(in.value(QLatin1StringView("packResponse")), SiteClient::packPath, packFile, site, files);
+    offer(in.value(QLatin1StringView("packResponse")), SiteClient::packPath, packFile, sample);
     offer(in.value(QLatin1StringView("retiredResponse")), SiteClient::retiredSignalsPath,
-          retiredFile, site, files);
+          retiredFile, sample);
+    const auto model = sample.make();
 
-    InformationModel model(
-        {.fileManager = files,
-         .now = [] { return 0.0; },
-         .seedHistory = {},
-         .site = site,
-         .runningVersion = {}},
-        InformationContent(shortSignals(in.value(QLatin1StringView("signals"))),
-                           shortSignals(in.value(QLatin1StringView("retired"))),
-                           selectionDays(in.value(QLatin1StringView("selectionDays"))),
-                           in.value(QLatin1StringView("asOf")).toString()),
-        std::nullopt);
-    model.refreshPackFromSite();
+    model->refreshPackFromSite();
 
     QJsonArray dates;
-    for (const auto& day : model.selectionDays()) {
+    for (const auto& day : model->selectionDays()) {
         dates.append(day.date);
     }
     return QJsonObject{
-        {u"packSyncNote"_qs, orNull(model.packSyncNote())},
-        {u"isSyncingPack"_qs, model.isSyncingPack()},
-        {u"signals"_qs, ids(model.signals())},
-        {u"retired"_qs, ids(model.retiredSignals())},
+        {u"packSyncNote"_qs, orNull(model->packSyncNote())},
+        {u"isSyncingPack"_qs, model->isSyncingPack()},
+        {u"signals"_qs, ids(model->signals())},
+        {u"retired"_qs, ids(model->retiredSignals())},
         {u"selectionDays"_qs, dates},
-        {u"packAsOf"_qs, model.packAsOf()},
-        {u"packFile"_qs, storedFile(files, packFile, site.answers.value(SiteClient::packPath))},
-        {u"retiredFile"_qs,
-         storedFile(files, retiredFile, site.answers.value(SiteClient::retiredSignalsPath))},
+        {u"packAsOf"_qs, model->packAsOf()},
+        {u"packFile"_qs, storedFile(sample, packFile, SiteClient::packPath)},
+        {u"retiredFile"_qs, storedFile(sample, retiredFile, SiteClient::retiredSignalsPath)},
     };
 }
 

@@ -1,9 +1,7 @@
 #include "WorkspaceFolder.h"
 
-#include "FakeSiteClient.h"
-#include "InformationModel.h"
 #include "InformationSignalCoding.h"
-#include "MemoryFileManager.h"
+#include "SampleModel.h"
 #include "VectorFixtures.h"
 #include "WorkspaceLoading.h"
 
@@ -50,17 +48,11 @@ QJsonObject savedAgain(const InformationWorkspace& workspace)
 // What the program says at its start over the stored workspace.
 QJsonValue startMessage(const QByteArray& document)
 {
-    MemoryFileManager fileManager;
-    const auto repository = InformationWorkspaceRepository::live(fileManager).value();
-    fileManager.files.insert(repository.filePath, document);
-    FakeSiteClient site;
-    const InformationModel model({.fileManager = fileManager,
-                                  .now = [] { return 0.0; },
-                                  .seedHistory = {},
-                                  .site = site,
-                                  .runningVersion = {}},
-                                 InformationContent({}, {}, {}, {}), repository);
-    const auto& message = model.errorMessage();
+    SampleModel sample;
+    const auto repository = InformationWorkspaceRepository::live(sample.files).value();
+    sample.files.files.insert(repository.filePath, document);
+    const auto model = sample.make();
+    const auto& message = model->errorMessage();
     return message ? QJsonValue(*message) : QJsonValue::Null;
 }
 

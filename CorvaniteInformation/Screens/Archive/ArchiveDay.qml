@@ -4,15 +4,20 @@ import QtQuick
 import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 
-/// A slice of one day of the archive's index. A press opens the day.
+/// A slice of one day of the archive's index; the slices join to one card. A press opens the day.
 AppButton {
     id: section
 
     required property archiveDayRow row
 
+    /// How far the slice goes on beyond what is to be seen of it, where another one follows.
+    readonly property int hiddenAbove: row.opensDay ? 0 : InformationTheme.cardRadius
+    readonly property int hiddenBelow: row.closesDay ? 0 : InformationTheme.cardRadius
+
     signal opened
 
-    implicitHeight: Math.max(date.height, list.height) + 40
+    implicitHeight: list.y + Math.max(date.height, list.height) + (row.closesDay ? 24 : hiddenBelow)
+    activeFocusOnTab: row.opensDay
     radius: InformationTheme.cardRadius
     ringInside: true
     ground: down ? InformationTheme.well : InformationTheme.card
@@ -28,8 +33,9 @@ AppButton {
         id: date
 
         x: 24
-        y: 20
+        y: 24
         width: 112
+        visible: section.row.opensDay
 
         HeadingText {
             width: parent.width
@@ -62,11 +68,13 @@ AppButton {
         id: list
 
         x: 160
-        y: 20
+        y: section.row.opensDay ? 24 : section.hiddenAbove + entries.spacing
         width: parent.width - x - 24
         spacing: 8
 
         Column {
+            id: entries
+
             width: parent.width
             spacing: 5
 

@@ -27,6 +27,6 @@ Item {
         x: number.width
         width: parent.width - x
         text: entry.row.title
-        trail: entry.row.laneTrail
+        trail: entry.row.laneName
     }
 }

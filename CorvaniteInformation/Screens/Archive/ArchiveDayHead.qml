@@ -13,11 +13,11 @@ Column {
         head.page.workbench.surface = InformationModel.Surface.Weekly;
     }
 
-    bottomPadding: 20
+    bottomPadding: 18
 
     PageIntro {
         width: parent.width
-        bottomPadding: 12
+        bottomPadding: 10
         eyebrow: "ARCHIVE · 每日精选"
         title: head.page.day.title
         lead: head.page.day.lead

@@ -14,6 +14,9 @@ PageList {
     foot: foot
     model: page.focusRows
 
+    Accessible.role: Accessible.Pane
+    Accessible.name: page.day.title
+
     Connections {
         target: list.page
         function onDayChanged() {

@@ -8,7 +8,7 @@ Item {
 
     required property archiveFocusRow row
 
-    implicitHeight: content.y + content.height + 20
+    implicitHeight: content.y + content.height + 18
 
     Hairline {
         color: InformationTheme.hairStrong
@@ -77,11 +77,12 @@ Item {
 
         Item {
             width: parent.width
-            height: source.height
+            height: source.height - 2
 
             SourceLink {
                 id: source
 
+                y: -2
                 width: Math.min(implicitWidth, parent.width - original.width - 24)
                 text: section.row.sourceLine
                 address: section.row.address
@@ -94,6 +95,7 @@ Item {
                 id: original
 
                 anchors.right: parent.right
+                y: source.y
                 visible: source.enabled
                 text: "看原文"
                 iconPath: IconPaths.openOutside

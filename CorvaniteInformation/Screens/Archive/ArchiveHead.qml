@@ -18,6 +18,7 @@ Column {
 
     PageIntro {
         width: parent.width
+        bottomPadding: -4
         eyebrow: "ARCHIVE · 往期精选"
         title: "回看任何一天的 Corvanite。"
         lead: "每天的焦点内容按日期归档。你可以回看当时的判断、对照后来的变化，也可以检验 Corvanite 是否真的在替你挡住噪声。"
@@ -63,7 +64,7 @@ Column {
             id: weekly
 
             anchors.right: parent.right
-            y: 4
+            y: 2
             text: "按周折叠的视角见周报精选 →"
             onClicked: head.showWeekly()
         }

@@ -10,7 +10,6 @@ PageList {
 
     required property ArchivePage page
 
-    spacing: 12
     head: head
     model: page.days
 
@@ -33,12 +32,14 @@ PageList {
         required property int index
 
         width: list.width
-        implicitHeight: section.height
+        implicitHeight: section.height - section.hiddenAbove - section.hiddenBelow + (row.closesDay ? 12 : 0)
+        clip: !row.opensDay || !row.closesDay
 
         ArchiveDay {
             id: section
 
             x: list.columnX
+            y: -hiddenAbove
             width: list.columnWidth
             focus: true
             row: place.row

@@ -1,4 +1,5 @@
 import QtQuick
+import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 import CorvaniteInformation.State
 
@@ -15,19 +16,23 @@ FocusScope {
         id: page
 
         workbench: surface.workbench
+        shown: surface.visible
         onDayChanged: surface.turn()
     }
 
-    // The focus goes along, and comes back to the day it came from.
+    // The focus goes along, and where it is the keyboard's it comes back to the day it came from.
     function turn() {
+        const byKeyboard = (surface.Window.activeFocusItem as Pressable)?.visualFocus ?? true;
         if (page.showsDay)
             lastPosition = page.dayPosition;
         if (!activeFocus)
             return;
         if (page.showsDay)
             day.forceActiveFocus();
-        else
+        else if (byKeyboard)
             index.focusRow(lastPosition);
+        else
+            index.forceActiveFocus();
     }
 
     ArchiveIndex {

@@ -2,19 +2,20 @@ import QtQuick
 import CorvaniteInformation.Controls
 
 /// A paragraph that ends in a quieter trail. Both are plain text: the trail is a text of its own,
-/// behind the last line where that leaves room for it, else on a line of its own.
+/// behind a dot at the end of the last line where that leaves room for it, else on a line of its own.
 Item {
     id: paragraph
 
     required property string text
     required property string trail
 
-    readonly property bool trailFits: !main.truncated && main.lastLineWidth + end.implicitWidth <= width
+    readonly property real trailX: main.lastLineWidth + dot.implicitWidth
+    readonly property bool trailFits: !main.truncated && trailX + end.implicitWidth <= width
 
     implicitHeight: main.height + (trailFits ? 0 : end.height)
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: paragraph.text + paragraph.trail
+    Accessible.name: paragraph.text + dot.text + paragraph.trail
 
     AppText {
         id: main
@@ -36,9 +37,20 @@ Item {
     }
 
     AppText {
+        id: dot
+
+        x: main.lastLineWidth
+        y: main.height - height
+        visible: paragraph.trailFits
+        text: " · "
+        color: InformationTheme.ink2
+        Accessible.ignored: true
+    }
+
+    AppText {
         id: end
 
-        x: paragraph.trailFits ? main.lastLineWidth : 0
+        x: paragraph.trailFits ? paragraph.trailX : 0
         y: main.height - (paragraph.trailFits ? height : 0)
         width: Math.min(implicitWidth, paragraph.width)
         text: paragraph.trail

@@ -18,14 +18,27 @@ Column {
         workbench.dismissIntakeError();
     }
 
-    function takeFocus() {
-        input.forceActiveFocus();
+    function takeFocus(reason: int) {
+        input.forceActiveFocus(reason);
     }
 
+    /// A composition that is not finished is no input.
     function submit() {
+        InputMethod.reset();
+        workbench.dismissIntakeError();
         if (workbench.addSource(input.text))
             done();
     }
+
+    /// Ctrl+Enter hands in, wherever the focus is; held, it does so once.
+    function submitByKey(event: KeyEvent) {
+        event.accepted = event.modifiers & Qt.ControlModifier;
+        if (event.accepted && !event.isAutoRepeat)
+            submit();
+    }
+
+    Keys.onReturnPressed: event => submitByKey(event)
+    Keys.onEnterPressed: event => submitByKey(event)
 
     spacing: 16
 
@@ -90,7 +103,11 @@ Column {
             text: form.refused ? form.workbench.intakeErrorMessage : "已核验的公开来源会直接接入；其他输入先安全保存在本机，未接入时不会假装已经抓取。"
             textStyle: InformationTheme.small
             color: form.refused ? InformationTheme.accent : InformationTheme.ink2
-            Accessible.role: form.refused ? Accessible.AlertMessage : Accessible.StaticText
+            Accessible.ignored: form.refused
+
+            Announcement {
+                text: form.workbench.intakeErrorMessage
+            }
         }
     }
 
@@ -100,11 +117,13 @@ Column {
 
         QuietButton {
             anchors.verticalCenter: parent.verticalCenter
+            activeFocusOnPress: false
             text: "取消"
             onClicked: form.done()
         }
 
         CitrineButton {
+            activeFocusOnPress: false
             text: form.title
             onClicked: form.submit()
         }

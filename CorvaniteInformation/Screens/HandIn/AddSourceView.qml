@@ -7,6 +7,8 @@ Sheet {
     id: view
 
     required property InformationModel workbench
+    /// It was asked for by a key.
+    required property bool byKeyboard
 
     readonly property AddSourceForm form: contentItem as AddSourceForm
 
@@ -17,7 +19,7 @@ Sheet {
     visible: true
 
     onAboutToShow: form.begin()
-    onOpened: form.takeFocus()
+    onOpened: form.takeFocus(byKeyboard ? Qt.ShortcutFocusReason : Qt.PopupFocusReason)
 
     contentItem: AddSourceForm {
         workbench: view.workbench

@@ -6,7 +6,7 @@ import CorvaniteInformation.Pages
 import CorvaniteInformation.State
 
 /// What the reader has kept and handed in, and the search in it.
-FocusScope {
+Surface {
     id: surface
 
     required property InformationModel workbench
@@ -15,9 +15,11 @@ FocusScope {
         head.focusSearch();
     }
 
+    /// The row goes; where the keyboard was on it, it goes on with what takes the row's place.
     function remove(row: keptRow, index: int) {
+        const byKeyboard = (surface.Window.activeFocusItem as Pressable)?.visualFocus ?? false;
         page.remove(row);
-        if (!list.focusRow(Math.min(index, list.count - 1)))
+        if (byKeyboard && !list.focusRow(Math.min(index, list.count - 1)))
             focusSearch();
     }
 
@@ -25,6 +27,7 @@ FocusScope {
         id: page
 
         workbench: surface.workbench
+        shown: surface.visible
     }
 
     PageList {

@@ -61,6 +61,8 @@ Sheet {
             y: heading.height
             width: parent.width
             height: parent.height - y
+            // All rows at once: the sheet is as high as they are.
+            reach: 1200
             sideMargin: sheet.sideMargin
             topSpace: 16
             bottomSpace: 28

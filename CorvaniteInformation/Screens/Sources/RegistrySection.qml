@@ -31,6 +31,7 @@ Column {
 
             anchors.right: parent.right
             anchors.bottom: header.bottom
+            anchors.bottomMargin: -2
             text: "网页版"
             iconPath: IconPaths.openOutside
             onClicked: LinkOpener.open(section.workbench.sitePage("sources"))

@@ -56,7 +56,7 @@ Item {
 
         anchors.right: parent.right
         anchors.rightMargin: 24
-        y: 10
+        y: 8
         visible: entry.row.address !== ""
         text: "打开信源主页"
         Accessible.description: entry.row.name

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 import CorvaniteInformation.State
@@ -29,14 +28,19 @@ FocusScope {
         clip: true
         focus: true
 
-        Keys.forwardTo: [scroller]
+        Accessible.role: Accessible.Pane
+        Accessible.name: "信源清单"
 
-        T.ScrollBar.vertical: OverlayScrollBar {}
+        Keys.forwardTo: [scroller]
 
         PaneScroller {
             id: scroller
 
             pane: pane
+        }
+
+        OverlayScrollBar {
+            scroller: scroller
         }
 
         Column {

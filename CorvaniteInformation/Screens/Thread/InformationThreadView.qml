@@ -22,11 +22,11 @@ Sheet {
     title: threadPage.title
     visible: sheet.workbench.hasOpenThread
 
+    onAboutToShow: threadPage.markSeen()
+    // A composition that is not finished is no part of the note.
+    onAboutToHide: InputMethod.reset()
     onClosed: sheet.workbench.closeThread()
-    onOpened: {
-        threadPage.markSeen();
-        closeButton.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason);
-    }
+    onOpened: closeButton.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason)
 
     LastingBinding on signalId {
         when: sheet.workbench.hasOpenThread
@@ -81,6 +81,7 @@ Sheet {
                 anchors.right: parent.right
                 anchors.rightMargin: sheet.sideMargin - rightPadding
                 y: 24
+                activeFocusOnPress: false
                 text: "关闭"
                 onClicked: sheet.close()
             }

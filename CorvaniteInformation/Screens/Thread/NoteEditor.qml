@@ -56,8 +56,19 @@ T.TextArea {
     background: Rectangle {
         color: InformationTheme.card
         radius: InformationTheme.fieldRadius
-        border.width: editor.activeFocus ? 2 : 1
-        border.color: editor.activeFocus ? InformationTheme.ring : InformationTheme.control
+        border.color: InformationTheme.control
+
+        FocusRing {
+            shown: keyboard.visual
+            controlRadius: InformationTheme.fieldRadius
+        }
+    }
+
+    KeyboardFocus {
+        id: keyboard
+
+        active: editor.activeFocus
+        reason: editor.focusReason
     }
 
     AppText {

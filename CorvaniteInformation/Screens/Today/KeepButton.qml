@@ -16,6 +16,7 @@ LabelButton {
     text: kept ? "已收下" : "收下"
     iconPath: kept ? IconPaths.confirmed : ""
     iconTint: InformationTheme.malachite
+    iconStroke: 2.25
     textStyle: kept ? InformationTheme.quietLabel : InformationTheme.citrineLabel
     tint: {
         if (!kept)

@@ -4,18 +4,24 @@ import QtQuick
 import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 
-/// The chips that choose which lane today's lists show. The arrow keys choose the neighbours.
+/// The chips that choose which lane today's lists show. The arrow keys choose the neighbours. Where they
+/// would not fit in a line they move together.
 Flow {
     id: bar
 
     required property TodayPage page
 
-    spacing: 6
+    readonly property int roomySpacing: 6
+    readonly property bool tight: lead.width + chips.roomyWidth > width
+
+    spacing: tight ? 4 : roomySpacing
 
     Accessible.role: Accessible.Grouping
     Accessible.name: caption.text
 
     Item {
+        id: lead
+
         width: caption.implicitWidth + 2
         height: 28
 
@@ -33,6 +39,13 @@ Flow {
     Repeater {
         id: chips
 
+        readonly property real roomyWidth: {
+            let sum = 0;
+            for (let i = 0; i < count; ++i)
+                sum += bar.roomySpacing + ((itemAt(i) as Chip)?.roomyWidth ?? 0);
+            return sum;
+        }
+
         model: bar.page.lanes
 
         Chip {
@@ -42,6 +55,7 @@ Flow {
             text: row.text
             square: row.square
             selected: row.selected
+            tight: bar.tight
             onClicked: bar.page.selectLane(row.lane)
             Keys.onLeftPressed: bar.choose(index - 1)
             Keys.onRightPressed: bar.choose(index + 1)

@@ -9,6 +9,7 @@ AppButton {
 
     required property signalCardRow row
 
+    signal changeToggled
     signal keepToggled
     signal similarReduced
 
@@ -30,6 +31,7 @@ AppButton {
         anchors.fill: parent
         anchors.margins: 24
         row: card.row
+        onChangeToggled: card.changeToggled()
         onKeepToggled: card.keepToggled()
         onSimilarReduced: card.similarReduced()
     }

@@ -9,9 +9,8 @@ Item {
     id: face
 
     required property signalCardRow row
-    /// The block that says what changed is open.
-    property bool expanded: false
 
+    signal changeToggled
     signal keepToggled
     signal similarReduced
 
@@ -96,7 +95,7 @@ Item {
                         textStyle: InformationTheme.meta
                         restTint: InformationTheme.ink3
                         Accessible.name: face.row.originalName
-                        Accessible.description: face.row.sourceLine
+                        Accessible.description: source.enabled ? face.row.sourceLine : ""
                     }
                 }
 
@@ -108,17 +107,17 @@ Item {
                         implicitHeight: 32
                         text: "看变化"
                         restTint: InformationTheme.accent
-                        iconPath: face.expanded ? IconPaths.fold : IconPaths.unfold
+                        iconPath: face.row.changeOpen ? IconPaths.fold : IconPaths.unfold
                         iconSize: 14
                         iconTrails: true
-                        Accessible.description: face.expanded ? "已展开" : "已收起"
-                        onClicked: face.expanded = !face.expanded
+                        Accessible.description: face.row.changeOpen ? "已展开" : "已收起"
+                        onClicked: face.changeToggled()
                     }
                 }
 
                 ChangeBlock {
                     width: parent.width
-                    open: face.row.hasChange && face.expanded
+                    open: face.row.changeOpen
                     text: face.row.change
                 }
             }

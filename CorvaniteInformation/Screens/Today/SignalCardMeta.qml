@@ -18,7 +18,7 @@ Row {
         width: 3
         height: 3
         radius: 1.5
-        color: InformationTheme.control
+        color: Qt.alpha(InformationTheme.control, 0.75)
     }
 
     AppText {

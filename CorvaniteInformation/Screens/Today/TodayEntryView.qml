@@ -12,12 +12,24 @@ FocusScope {
     required property TodayPage page
     required property real columnWidth
     required property int railStop
+    /// The reader wants the remaining cards.
+    required property bool open
+    /// How far they are open, from 0 to 1.
+    required property real unfolded
 
+    readonly property bool folds: row.foldingPosition >= 0
+    /// The cards from there on lie below what can be seen, and keep their height: rows without one
+    /// would all be made at once.
+    readonly property int farthestFolding: 6
+
+    signal remainingToggled
     signal similarReduced(signalId: string)
     signal railLineFocused(position: int)
     signal railStepped(by: int)
 
-    implicitHeight: face.height
+    implicitHeight: face.height * (folds && row.foldingPosition < farthestFolding ? unfolded : 1)
+    opacity: folds ? unfolded : 1
+    clip: opacity < 1
 
     Column {
         id: face
@@ -48,6 +60,7 @@ FocusScope {
                     width: parent.width
                     row: view.row.card
                     onClicked: view.page.workbench.openThread(row.signalId)
+                    onChangeToggled: view.page.toggleChange(row.signalId)
                     onKeepToggled: view.page.workbench.toggleKeep(row.signalId)
                     onSimilarReduced: view.similarReduced(row.signalId)
                 }
@@ -65,8 +78,8 @@ FocusScope {
                     width: parent.width
                     text: view.page.remainingTitle
                     note: "需要时再展开，不会丢失。"
-                    open: view.page.showingRemaining
-                    onClicked: view.page.showingRemaining = !view.page.showingRemaining
+                    open: view.open
+                    onClicked: view.remainingToggled()
                 }
             }
         }

@@ -40,6 +40,24 @@ Column {
     }
 
     Optional {
+        when: intro.page.laneEmpty
+
+        Column {
+            width: intro.width
+            topPadding: 72
+            bottomPadding: 40
+
+            EmptyCollectionView {
+                width: parent.width
+                title: "这一类今天没有条目"
+                message: "其他类别里还有值得看的内容。"
+                action: "看全部"
+                onPerform: intro.page.selectLane("")
+            }
+        }
+    }
+
+    Optional {
         when: intro.page.empty
 
         Column {

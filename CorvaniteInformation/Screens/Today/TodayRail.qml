@@ -54,7 +54,7 @@ FocusScope {
         y: receipt.y - height
         width: parent.width - x
         height: 24
-        visible: rail.receiptPinned
+        visible: rail.receiptPinned && !lines.atYEnd
         gradient: Gradient {
             GradientStop {
                 position: 0

@@ -16,6 +16,17 @@ FocusScope {
     readonly property bool wide: width >= 1440
     readonly property int railWidth: !twoPanes ? 0 : wide ? 360 : 304
 
+    /// The reader wants the remaining cards; they unfold and fold.
+    property bool open: false
+    property real unfolded: open ? 1 : 0
+
+    Behavior on unfolded {
+        NumberAnimation {
+            duration: InformationTheme.disclosureDuration
+            easing.type: Easing.OutCubic
+        }
+    }
+
     /// The line of the list of everything at which the Tab key stops.
     property int railLine: 0
     readonly property int railStop: Math.min(railLine, todayPage.railCount - 1)
@@ -35,6 +46,8 @@ FocusScope {
         id: todayPage
 
         workbench: surface.workbench
+        showingRemaining: surface.open || surface.unfolded > 0
+        shown: surface.visible
     }
 
     JoinedRows {
@@ -66,6 +79,9 @@ FocusScope {
             columnWidth: column.columnWidth
             page: todayPage
             railStop: surface.railStop
+            open: surface.open
+            unfolded: surface.unfolded
+            onRemainingToggled: surface.open = !surface.open
             onSimilarReduced: signalId => surface.reduce(signalId, index)
             onRailLineFocused: position => surface.railLine = position
             onRailStepped: by => column.focusRow(index + by)

@@ -72,10 +72,18 @@ CardSlice {
             Optional {
                 when: day.row.closesDay
 
-                LinkText {
-                    text: "查看当日完整精选 →"
-                    Accessible.name: day.row.linkName
-                    onClicked: day.opened()
+                Item {
+                    width: link.width
+                    height: link.height - 4
+
+                    LinkText {
+                        id: link
+
+                        y: -2
+                        text: "查看当日完整精选 →"
+                        Accessible.name: day.row.linkName
+                        onClicked: day.opened()
+                    }
                 }
             }
         }

@@ -13,32 +13,32 @@ Item {
     AppText {
         id: title
 
-        width: parent.width - (lane.visible ? lane.width + 24 : 0)
+        width: lane.visible ? square.x - 24 : parent.width
         text: entry.row.title
         maximumLineCount: InformationTheme.longestName
         elide: Text.ElideRight
         color: entry.row.resolved ? InformationTheme.ink : InformationTheme.ink3
     }
 
-    Row {
+    LaneSquare {
+        id: square
+
+        anchors.verticalCenter: lane.verticalCenter
+        anchors.right: lane.left
+        anchors.rightMargin: 6
+        visible: lane.visible
+        color: entry.row.laneColor
+    }
+
+    AppText {
         id: lane
 
         anchors.right: parent.right
-        height: InformationTheme.body.lineHeight
+        anchors.baseline: title.baseline
         visible: entry.row.resolved
-        spacing: 6
-
-        LaneSquare {
-            anchors.verticalCenter: parent.verticalCenter
-            color: entry.row.laneColor
-        }
-
-        AppText {
-            anchors.verticalCenter: parent.verticalCenter
-            text: entry.row.laneName
-            textStyle: InformationTheme.meta
-            color: InformationTheme.ink2
-            wrapMode: Text.NoWrap
-        }
+        text: entry.row.laneName
+        textStyle: InformationTheme.meta
+        color: InformationTheme.ink2
+        wrapMode: Text.NoWrap
     }
 }

@@ -18,6 +18,7 @@ FocusScope {
         id: page
 
         workbench: surface.workbench
+        shown: surface.visible
     }
 
     PageList {
@@ -27,6 +28,9 @@ FocusScope {
         focus: true
         head: head
         model: page.rows
+
+        Accessible.role: Accessible.Pane
+        Accessible.name: "周报精选"
 
         Column {
             id: head

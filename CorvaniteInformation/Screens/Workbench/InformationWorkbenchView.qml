@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQml
 import QtQuick
-import QtQuick.Window
 import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 import CorvaniteInformation.State
@@ -15,9 +14,9 @@ Window {
     required property InformationModel workbench
     /// The desktop's own animations are off.
     required property bool reducedMotion
+    /// A screen reader is there.
+    required property bool readAloud
 
-    width: 1120
-    height: 780
     minimumWidth: 720
     minimumHeight: 560
     visible: true
@@ -39,10 +38,22 @@ Window {
 
     readonly property bool threadOpen: workbench.hasOpenThread
     onThreadOpenChanged: if (threadOpen)
-        threadSheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench })
+        threadSheet.show(Qt.resolvedUrl("../Thread/InformationThreadView.qml"), { workbench, home: surfaces, blocked })
 
-    function openHandIn() {
-        handInSheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench });
+    readonly property bool hasErrorMessage: workbench.hasErrorMessage
+    onHasErrorMessageChanged: if (hasErrorMessage)
+        errorAlert.show(Qt.resolvedUrl("ErrorAlert.qml"), { workbench, home: surfaces, blocked })
+
+    function openHandIn(byKeyboard: bool) {
+        handInSheet.show(Qt.resolvedUrl("../HandIn/AddSourceView.qml"), { workbench, home: surfaces, blocked, byKeyboard });
+    }
+
+    /// What a sheet blocks: all but what is for the window itself.
+    readonly property QtObject blocked: QtObject {
+        function contains(at: point): bool {
+            const isHandle = edges.contain(at) || buttons.contains(buttons.mapFromItem(null, at)) || header.isHandle(header.mapFromItem(null, at)) || banner.isHandle(banner.mapFromItem(null, at));
+            return !isHandle;
+        }
     }
 
     FramePage {
@@ -64,6 +75,7 @@ Window {
             anchors.right: parent.right
             window: window
             page: framePage
+            home: surfaces
         }
 
         WorkbenchHeader {
@@ -74,6 +86,7 @@ Window {
             anchors.right: parent.right
             window: window
             page: framePage
+            buttonsWidth: buttons.width
             surfaces: [
                 SurfaceEntry {
                     surface: InformationModel.Today
@@ -101,7 +114,7 @@ Window {
                     iconPath: IconPaths.sources
                 }
             ]
-            onHandInRequested: window.openHandIn()
+            onHandInRequested: byKeyboard => window.openHandIn(byKeyboard)
         }
 
         WorkbenchSurfaces {
@@ -113,6 +126,11 @@ Window {
             anchors.bottom: footer.top
             focus: true
             workbench: window.workbench
+
+            // A press on its blank ground leads the keyboard to it.
+            TapHandler {
+                onTapped: if (!surfaces.activeFocus) surfaces.forceActiveFocus(Qt.MouseFocusReason)
+            }
         }
 
         SiteFooter {
@@ -130,6 +148,17 @@ Window {
             anchors.bottomMargin: 16
             workbench: window.workbench
             maximumWidth: window.width - 48
+            home: surfaces
+        }
+
+        // In the header, but the last stops of the Tab key.
+        WindowButtons {
+            id: buttons
+
+            anchors.right: parent.right
+            anchors.rightMargin: header.sideMargin
+            y: header.y + header.rowCenter - height / 2
+            window: window
         }
     }
 
@@ -145,11 +174,13 @@ Window {
         id: keysSheet
     }
 
-    ErrorAlert {
-        workbench: window.workbench
+    SheetLoader {
+        id: errorAlert
     }
 
     WindowEdges {
+        id: edges
+
         anchors.fill: parent
         window: window
     }
@@ -158,6 +189,12 @@ Window {
         target: InformationTheme
         property: "reducedMotion"
         value: window.reducedMotion
+    }
+
+    Binding {
+        target: RowReach
+        property: "readAloud"
+        value: window.readAloud
     }
 
     Instantiator {
@@ -177,12 +214,12 @@ Window {
 
     Shortcut {
         sequence: "Ctrl+N"
-        onActivated: window.openHandIn()
+        onActivated: window.openHandIn(true)
     }
 
     Shortcut {
         sequences: ["F1", "Ctrl+/"]
-        onActivated: keysSheet.show(Qt.resolvedUrl("../Keys/KeysView.qml"), {})
+        onActivated: keysSheet.show(Qt.resolvedUrl("../Keys/KeysView.qml"), { home: surfaces, blocked: window.blocked })
     }
 
     Shortcut {

@@ -3,12 +3,15 @@ import CorvaniteInformation.Controls
 import CorvaniteInformation.State
 
 /// Says what the last action did and offers to take it back. It lies over the page and never takes
-/// the focus by itself.
-Item {
+/// the focus by itself; once it has done what the reader came for, the focus goes back to where it was
+/// when the receipt came.
+FocusScope {
     id: bar
 
     required property InformationModel workbench
     required property real maximumWidth
+    /// What takes the focus where its old place is gone.
+    required property Item home
 
     /// Both are kept while the bar slides out.
     property string message
@@ -26,8 +29,27 @@ Item {
         y: bar.sunk
     }
 
-    Accessible.role: Accessible.AlertMessage
-    Accessible.name: bar.message
+    FocusReturn {
+        id: origin
+
+        home: bar.home
+    }
+
+    Connections {
+        target: bar.workbench
+
+        function onReceiptChanged() {
+            if (bar.activeFocus)
+                origin.giveBack();
+            else
+                origin.remember(bar.Window.activeFocusItem);
+        }
+    }
+
+    Announcement {
+        text: bar.message
+        Accessible.description: bar.undoable ? "按 Ctrl+Z 撤销" : ""
+    }
 
     states: State {
         name: "shown"
@@ -80,6 +102,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         width: 3
         height: 24
+        radius: 1.5
         color: InformationTheme.malachite
     }
 
@@ -107,13 +130,16 @@ Item {
         QuietButton {
             anchors.verticalCenter: parent.verticalCenter
             visible: bar.undoable
+            activeFocusOnPress: false
             text: "撤销"
+            Accessible.description: bar.message
             restTint: InformationTheme.accent
             onClicked: bar.workbench.undoLastAction()
         }
 
         IconButton {
             anchors.verticalCenter: parent.verticalCenter
+            activeFocusOnPress: false
             text: "关闭回执"
             iconPath: IconPaths.close
             onClicked: bar.workbench.dismissReceipt()

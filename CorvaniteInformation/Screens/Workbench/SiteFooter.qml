@@ -20,6 +20,7 @@ Rectangle {
     Accessible.role: Accessible.StatusBar
 
     component FooterLink: LinkText {
+        activeFocusOnPress: false
         textStyle: InformationTheme.caption
         restTint: InformationTheme.ink2
     }
@@ -69,8 +70,11 @@ Rectangle {
             color: footer.page.syncFailed ? InformationTheme.accent : InformationTheme.ink2
             textStyle: InformationTheme.caption
             wrapMode: Text.NoWrap
+            Accessible.ignored: true
 
-            Accessible.role: Accessible.AlertMessage
+            Announcement {
+                text: syncNote.text
+            }
         }
     }
 
@@ -80,7 +84,7 @@ Rectangle {
         anchors.right: parent.right
         anchors.rightMargin: footer.sideMargin
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 4
+        anchors.bottomMargin: 2
         spacing: footer.width >= 980 ? 16 : 12
 
         Accessible.role: Accessible.Grouping

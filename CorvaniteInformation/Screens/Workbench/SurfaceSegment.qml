@@ -8,6 +8,7 @@ LabelButton {
     implicitHeight: 30
     leftPadding: 12
     radius: InformationTheme.segmentRadius
+    activeFocusOnPress: false
     activeFocusOnTab: selected || activeFocus
     textStyle: selected ? InformationTheme.smallBold : InformationTheme.small
     tint: selected || hovered ? InformationTheme.ink : InformationTheme.ink2
@@ -18,4 +19,5 @@ LabelButton {
     Accessible.role: Accessible.PageTab
     Accessible.selectable: true
     Accessible.selected: selected
+    Accessible.description: selected ? "已选中" : ""
 }

@@ -1,14 +1,17 @@
 import QtQuick
-import QtQuick.Window
 import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 
-/// Offers the newer build of the program, above the header; like it, it moves the window.
-Rectangle {
+/// Offers the newer build of the program, above the header; like it, it moves the window. When it goes
+/// with the focus, that goes back to where it was when the banner came.
+FocusScope {
     id: banner
 
     required property Window window
     required property FramePage page
+
+    /// Takes the focus when the banner goes with it.
+    required property Item home
 
     /// Kept while the banner closes.
     property string message
@@ -16,15 +19,42 @@ Rectangle {
     implicitHeight: page.hasUpdate ? 44 : 0
     visible: implicitHeight > 0
     clip: true
-    color: InformationTheme.bannerWash
 
     Accessible.role: Accessible.Pane
+    Accessible.name: banner.message
+
+    /// Whether a drag there moves the window.
+    function isHandle(at: point): bool {
+        return visible && contains(at) && childAt(at.x, at.y) !== actions;
+    }
 
     Behavior on implicitHeight {
         NumberAnimation {
             duration: InformationTheme.bannerDuration
             easing.type: Easing.OutCubic
         }
+    }
+
+    FocusReturn {
+        id: origin
+
+        home: banner.home
+    }
+
+    Connections {
+        target: banner.page.workbench
+
+        function onAvailableUpdateChanged() {
+            if (banner.activeFocus)
+                origin.giveBack();
+            else
+                origin.remember(banner.Window.activeFocusItem);
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: InformationTheme.bannerWash
     }
 
     LastingBinding on message {
@@ -66,6 +96,7 @@ Rectangle {
 
         QuietButton {
             anchors.verticalCenter: parent.verticalCenter
+            activeFocusOnPress: false
             text: "获取更新"
             visible: banner.page.updateAddress !== ""
             help: banner.page.updateHelp
@@ -78,6 +109,7 @@ Rectangle {
 
         IconButton {
             anchors.verticalCenter: parent.verticalCenter
+            activeFocusOnPress: false
             text: "关闭更新提示"
             help: "关闭更新提示"
             iconPath: IconPaths.close

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 import CorvaniteInformation.Controls
 
 /// Minimise, maximise and close, for a window without a native title bar.
@@ -8,31 +7,29 @@ Row {
 
     required property Window window
 
-    required property bool maximized
-
-    signal maximizeToggled
+    readonly property bool maximized: window.visibility === Window.Maximized
 
     spacing: 8
 
-    IconButton {
+    component WindowButton: IconButton {
         side: 28
         restTint: InformationTheme.ink3
+        activeFocusOnPress: false
+    }
+
+    WindowButton {
         iconPath: IconPaths.windowMinimize
         text: "最小化"
         onClicked: buttons.window.showMinimized()
     }
 
-    IconButton {
-        side: 28
-        restTint: InformationTheme.ink3
+    WindowButton {
         iconPath: buttons.maximized ? IconPaths.windowRestore : IconPaths.windowMaximize
         text: buttons.maximized ? "还原" : "最大化"
-        onClicked: buttons.maximizeToggled()
+        onClicked: buttons.maximized ? buttons.window.showNormal() : buttons.window.showMaximized()
     }
 
-    IconButton {
-        side: 28
-        restTint: InformationTheme.ink3
+    WindowButton {
         iconPath: IconPaths.close
         text: "关闭窗口"
         onClicked: buttons.window.close()

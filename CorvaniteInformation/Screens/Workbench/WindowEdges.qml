@@ -1,9 +1,9 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Window
+import CorvaniteInformation.Controls
 
-/// The margins of a window without a native frame: a drag there resizes it.
+/// The margins of a window without a native frame: the line around it, and a drag there resizes it.
 Item {
     id: edges
 
@@ -11,30 +11,40 @@ Item {
 
     visible: window.visibility === Window.Windowed
 
+    function contain(at: point): bool {
+        return visible && childAt(at.x, at.y) instanceof WindowEdge;
+    }
+
+    Hairline {
+        color: InformationTheme.hairStrong
+    }
+
+    Hairline {
+        anchors.bottom: parent.bottom
+        color: InformationTheme.hairStrong
+    }
+
+    Hairline {
+        width: 1
+        height: parent.height
+        color: InformationTheme.hairStrong
+    }
+
+    Hairline {
+        anchors.right: parent.right
+        width: 1
+        height: parent.height
+        color: InformationTheme.hairStrong
+    }
+
     Repeater {
         model: [Qt.LeftEdge, Qt.RightEdge, Qt.TopEdge, Qt.BottomEdge, Qt.TopEdge | Qt.LeftEdge, Qt.TopEdge | Qt.RightEdge, Qt.BottomEdge | Qt.LeftEdge, Qt.BottomEdge | Qt.RightEdge]
 
-        MouseArea {
+        WindowEdge {
             required property int modelData
 
-            readonly property bool atLeft: modelData & Qt.LeftEdge
-            readonly property bool atRight: modelData & Qt.RightEdge
-            readonly property bool atTop: modelData & Qt.TopEdge
-            readonly property bool atBottom: modelData & Qt.BottomEdge
-            readonly property bool atSide: atLeft || atRight
-            readonly property bool atCorner: atSide && (atTop || atBottom)
-            readonly property int thickness: atCorner ? 12 : 6
-
-            x: atRight ? edges.width - width : 0
-            y: atBottom ? edges.height - height : 0
-            width: atSide ? thickness : edges.width
-            height: atTop || atBottom ? thickness : edges.height
-            cursorShape: {
-                if (atCorner)
-                    return atLeft === atTop ? Qt.SizeFDiagCursor : Qt.SizeBDiagCursor;
-                return atSide ? Qt.SizeHorCursor : Qt.SizeVerCursor;
-            }
-            onPressed: edges.window.startSystemResize(modelData)
+            side: modelData
+            window: edges.window
         }
     }
 }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 
 /// A part of a window without a native title bar by which it is moved; a double click maximises or
 /// restores it. A DragHandler of 6.4 would begin a second move after the first.
@@ -8,21 +7,25 @@ MouseArea {
 
     required property Window window
 
-    readonly property bool maximized: window.visibility === Window.Maximized
     property point grip
 
-    function toggleMaximized() {
-        if (maximized)
-            window.showNormal();
-        else
-            window.showMaximized();
+    // The window first catches up with the pointer. From then on the drag is the desktop's, which may
+    // keep the release to itself.
+    function move(by: point) {
+        if (window.visibility === Window.Windowed) {
+            window.x += by.x;
+            window.y += by.y;
+        }
+        window.startSystemMove();
+        enabled = false;
+        enabled = true;
     }
 
     onPressed: event => grip = Qt.point(event.x, event.y)
     onPositionChanged: event => {
-        const distance = Math.max(Math.abs(event.x - grip.x), Math.abs(event.y - grip.y));
-        if (distance >= Qt.styleHints.startDragDistance)
-            window.startSystemMove();
+        const way = Qt.point(event.x - grip.x, event.y - grip.y);
+        if (Math.max(Math.abs(way.x), Math.abs(way.y)) >= Qt.styleHints.startDragDistance)
+            move(way);
     }
-    onDoubleClicked: toggleMaximized()
+    onDoubleClicked: window.visibility === Window.Maximized ? window.showNormal() : window.showMaximized()
 }

@@ -2,15 +2,11 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import CorvaniteInformation.Controls
-import CorvaniteInformation.Screens.Archive
-import CorvaniteInformation.Screens.Kept
-import CorvaniteInformation.Screens.Sources
-import CorvaniteInformation.Screens.Today
-import CorvaniteInformation.Screens.Weekly
 import CorvaniteInformation.State
 
 /// The five surfaces, of which the current one shows. Each is made when it is first visited, and
-/// stays as the reader left it.
+/// stays as the reader left it. They are known by their files alone: what is named here would be
+/// loaded before the window shows.
 FocusScope {
     id: surfaces
 
@@ -24,7 +20,7 @@ FocusScope {
 
     function searchKept() {
         workbench.surface = InformationModel.Kept;
-        (kept.itemAt(0) as KeptSurface).focusSearch();
+        (kept.item as Surface).focusSearch();
     }
 
     NumberAnimation {
@@ -38,82 +34,46 @@ FocusScope {
         easing.type: Easing.OutCubic
     }
 
-    /// Makes its delegate at the first visit of a surface, and not before there is a place for it:
-    /// what is laid out twice jumps.
-    component Visited: Optional {
+    /// Makes its surface at the first visit, and not before there is a place for it: what is laid out
+    /// twice jumps.
+    component Visited: Loader {
         required property int surface
+        required property url file
 
         readonly property bool isCurrent: surfaces.current === surface
         readonly property bool isDue: isCurrent && surfaces.height > 0
 
-        property bool visited: false
-
-        when: visited
-        onIsDueChanged: visited = visited || isDue
+        anchors.fill: parent
+        visible: isCurrent
+        focus: isCurrent
+        onIsDueChanged: if (isDue && !item)
+            setSource(file, { workbench: surfaces.workbench, focus: true })
     }
 
     Visited {
-        id: today
-
         surface: InformationModel.Today
-
-        TodaySurface {
-            anchors.fill: surfaces
-            visible: today.isCurrent
-            focus: visible
-            workbench: surfaces.workbench
-        }
+        file: Qt.resolvedUrl("../Today/TodaySurface.qml")
     }
 
     Visited {
         id: kept
 
         surface: InformationModel.Kept
-
-        KeptSurface {
-            anchors.fill: surfaces
-            visible: kept.isCurrent
-            focus: visible
-            workbench: surfaces.workbench
-        }
+        file: Qt.resolvedUrl("../Kept/KeptSurface.qml")
     }
 
     Visited {
-        id: weekly
-
         surface: InformationModel.Weekly
-
-        WeeklyDigestView {
-            anchors.fill: surfaces
-            visible: weekly.isCurrent
-            focus: visible
-            workbench: surfaces.workbench
-        }
+        file: Qt.resolvedUrl("../Weekly/WeeklyDigestView.qml")
     }
 
     Visited {
-        id: archive
-
         surface: InformationModel.Archive
-
-        ArchiveView {
-            anchors.fill: surfaces
-            visible: archive.isCurrent
-            focus: visible
-            workbench: surfaces.workbench
-        }
+        file: Qt.resolvedUrl("../Archive/ArchiveView.qml")
     }
 
     Visited {
-        id: sources
-
         surface: InformationModel.Sources
-
-        SourcesView {
-            anchors.fill: surfaces
-            visible: sources.isCurrent
-            focus: visible
-            workbench: surfaces.workbench
-        }
+        file: Qt.resolvedUrl("../Sources/SourcesView.qml")
     }
 }

@@ -5,7 +5,7 @@
 
 using CommandLine::Export;
 
-class CommandLineTest : public QObject
+class ProgramCommandLineTest : public QObject
 {
     Q_OBJECT
 
@@ -129,5 +129,5 @@ private Q_SLOTS:
     }
 };
 
-TEST_SUBJECT(CommandLineTest)
-#include "CommandLineTest.moc"
+TEST_SUBJECT(ProgramCommandLineTest)
+#include "ProgramCommandLineTest.moc"

@@ -5,7 +5,7 @@
 
 using Command = CommandLine::Command;
 
-class CommandLineTest : public QObject
+class EditionCommandLineTest : public QObject
 {
     Q_OBJECT
 
@@ -58,5 +58,5 @@ private Q_SLOTS:
     }
 };
 
-TEST_SUBJECT(CommandLineTest)
-#include "CommandLineTest.moc"
+TEST_SUBJECT(EditionCommandLineTest)
+#include "EditionCommandLineTest.moc"

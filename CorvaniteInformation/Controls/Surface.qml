@@ -1,0 +1,8 @@
+import QtQuick
+
+/// What fills the window between header and footer.
+FocusScope {
+    /// Gives the focus to the surface's search field, where it has one.
+    function focusSearch() {
+    }
+}

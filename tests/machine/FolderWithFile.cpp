@@ -1,0 +1,21 @@
+#include "FolderWithFile.h"
+
+#include "FileTree.h"
+
+const QByteArray FolderWithFile::oldBytes("old bytes");
+const QByteArray FolderWithFile::newBytes("the new bytes, which are longer");
+
+FolderWithFile::FolderWithFile()
+{
+    writeFile(file(), oldBytes);
+}
+
+bool FolderWithFile::holdsOnly(const QByteArray& bytes) const
+{
+    return namesIn(path()) == QStringList{u"file"_qs} && contentOf(file()) == bytes;
+}
+
+std::optional<FileError::Reason> failureOf(const std::expected<void, FileError>& result)
+{
+    return result ? std::nullopt : std::optional(result.error().reason);
+}
