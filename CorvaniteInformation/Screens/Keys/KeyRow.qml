@@ -10,7 +10,7 @@ Item {
 
     required property labelledTextRow row
 
-    readonly property int keysWidth: 176
+    readonly property int keysWidth: 192
 
     implicitHeight: Math.max(keys.height, action.height)
 
