@@ -23,7 +23,10 @@ Sheet {
         id: page
     }
 
-    contentItem: Item {
+    Item {
+        width: sheet.availableWidth
+        height: sheet.availableHeight
+
         Accessible.role: Accessible.Dialog
         Accessible.name: sheet.title
 
