@@ -17,7 +17,8 @@ std::optional<InformationWorkspaceRepository> repository(const InformationFileMa
 
 ProgramParts::ProgramParts(const Surroundings& surroundings)
     : m_machine(LocalFileManager::applicationSupportDirectory(surroundings.environment)),
-      m_instance(InformationPackSync::liveDirectory(m_machine), m_machine),
+      m_instance(InformationPackSync::liveDirectory(m_machine), m_machine,
+                 surroundings.environment.value(u"XDG_ACTIVATION_TOKEN"_qs).toLatin1()),
       m_fileManager(m_machine, m_instance)
 {
     const auto standing = m_instance.standing();
