@@ -51,6 +51,8 @@ QString FileError::localizedDescription() const
         return QStringLiteral("读写出错；请检查磁盘。");
     case Reason::InUse:
         return QStringLiteral("数据目录正由另一个运行中的程序使用。");
+    case Reason::ChangedMeanwhile:
+        return QStringLiteral("文件刚刚在别处有了改动；请再试一次。");
     case Reason::Other:
         return QStringLiteral("文件操作没有完成（") +
                QString::fromLocal8Bit(std::generic_category().message(systemError)) +

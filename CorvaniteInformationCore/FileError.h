@@ -18,6 +18,8 @@ struct FileError
         InputOutput,
         /// Another running program works with the data directory.
         InUse,
+        /// The file no longer is what it was when it was read.
+        ChangedMeanwhile,
         Other
     };
 

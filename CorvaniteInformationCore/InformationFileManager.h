@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <chrono>
 #include <expected>
 #include <optional>
 
@@ -22,6 +23,10 @@ public:
     virtual std::expected<std::optional<QByteArray>, FileError>
     readFile(const QString& path) const = 0;
 
+    /// When the file was last written; nothing when no file exists there.
+    virtual std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+    writtenAt(const QString& path) const = 0;
+
     /// Makes the folder and every missing one above it, for this user only (0700).
     virtual std::expected<void, FileError> createDirectory(const QString& path) const = 0;
 
@@ -29,6 +34,13 @@ public:
     /// bytes or the new ones whole. On failure the old file is as it was.
     virtual std::expected<void, FileError> replaceFile(const QString& path,
                                                        const QByteArray& bytes) const = 0;
+
+    /// The same where the file still holds what was read of it, nothing for no file; else it stays
+    /// and the error is `ChangedMeanwhile`. Several programs that replace a file in this way only
+    /// never replace what they have not read.
+    virtual std::expected<void, FileError> replaceReadFile(const QString& path,
+                                                           const std::optional<QByteArray>& read,
+                                                           const QByteArray& bytes) const = 0;
 
 protected:
     InformationFileManager() = default;

@@ -5,8 +5,11 @@
 #include "InformationSeed.h"
 #include "InformationSignalIndex.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 
+#include <functional>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -24,6 +27,28 @@ QByteArray document(const InformationWorkspace& workspace)
     InformationWorkspace cleaned = workspace;
     cleaned.normalize();
     return InformationWorkspaceCoding::encode(cleaned);
+}
+
+using Replace = std::function<std::expected<void, FileError>(const QByteArray& bytes)>;
+
+std::expected<QByteArray, FileError> store(const QString& filePath,
+                                           const InformationWorkspace& workspace,
+                                           const InformationFileManager& fileManager,
+                                           const Replace& replace)
+{
+    if (const auto made = fileManager.createDirectory(QFileInfo(filePath).path()); !made) {
+        return std::unexpected(made.error());
+    }
+    auto stored = document(workspace);
+    if (const auto replaced = replace(stored); !replaced) {
+        return std::unexpected(replaced.error());
+    }
+    return stored;
+}
+
+QDate localDay(std::chrono::sys_seconds time)
+{
+    return QDateTime::fromSecsSinceEpoch(time.time_since_epoch().count()).date();
 }
 
 } // namespace
@@ -50,7 +75,49 @@ InformationWorkspaceRepository::load(const InformationFileManager& fileManager) 
     if (!*document) {
         return InformationWorkspace();
     }
-    auto workspace = InformationWorkspaceCoding::decode(**document);
+    return workspaceIn(**document);
+}
+
+std::expected<QByteArray, FileError>
+InformationWorkspaceRepository::save(const InformationWorkspace& workspace,
+                                     const InformationFileManager& fileManager) const
+{
+    return store(filePath, workspace, fileManager,
+                 [&](const QByteArray& bytes) { return fileManager.replaceFile(filePath, bytes); });
+}
+
+std::expected<QByteArray, FileError>
+InformationWorkspaceRepository::saveOver(const std::optional<QByteArray>& read,
+                                         const InformationWorkspace& workspace,
+                                         const InformationFileManager& fileManager) const
+{
+    return store(filePath, workspace, fileManager, [&](const QByteArray& bytes) {
+        return fileManager.replaceReadFile(filePath, read, bytes);
+    });
+}
+
+QString InformationWorkspaceRepository::previousFilePath() const
+{
+    const QFileInfo file(filePath);
+    return u"%1/%2.previous.%3"_qs.arg(file.path(), file.completeBaseName(), file.suffix());
+}
+
+void InformationWorkspaceRepository::keepPrevious(const QByteArray& document,
+                                                  std::chrono::sys_seconds now,
+                                                  const InformationFileManager& fileManager) const
+{
+    const QString path = previousFilePath();
+    const auto kept = fileManager.writtenAt(path);
+    if (kept && (!*kept || localDay(**kept) != localDay(now))) {
+        std::ignore = fileManager.replaceFile(path, document);
+    }
+}
+
+std::expected<InformationWorkspace, InformationWorkspaceRepository::LoadError>
+workspaceIn(const QByteArray& document)
+{
+    using LoadError = InformationWorkspaceRepository::LoadError;
+    auto workspace = InformationWorkspaceCoding::decode(document);
     if (!workspace) {
         return std::unexpected(LoadError(workspace.error()));
     }
@@ -60,20 +127,6 @@ InformationWorkspaceRepository::load(const InformationFileManager& fileManager) 
         return std::unexpected(LoadError(current.error()));
     }
     return *std::move(current);
-}
-
-std::expected<QByteArray, FileError>
-InformationWorkspaceRepository::save(const InformationWorkspace& workspace,
-                                     const InformationFileManager& fileManager) const
-{
-    if (const auto made = fileManager.createDirectory(QFileInfo(filePath).path()); !made) {
-        return std::unexpected(made.error());
-    }
-    auto stored = document(workspace);
-    if (const auto replaced = fileManager.replaceFile(filePath, stored); !replaced) {
-        return std::unexpected(replaced.error());
-    }
-    return stored;
 }
 
 std::expected<InformationWorkspace, InformationRepositoryError>

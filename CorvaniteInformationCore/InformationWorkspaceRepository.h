@@ -9,7 +9,9 @@
 #include <QList>
 #include <QString>
 
+#include <chrono>
 #include <expected>
+#include <optional>
 #include <variant>
 
 /// Keeps the workspace in one JSON file. The file's form is described in
@@ -36,9 +38,27 @@ struct InformationWorkspaceRepository
     std::expected<QByteArray, FileError> save(const InformationWorkspace& workspace,
                                               const InformationFileManager& fileManager) const;
 
+    /// The same over what was read of the file, nothing for no file; else `ChangedMeanwhile`.
+    std::expected<QByteArray, FileError> saveOver(const std::optional<QByteArray>& read,
+                                                  const InformationWorkspace& workspace,
+                                                  const InformationFileManager& fileManager) const;
+
+    /// Where the file of the day before is kept, beside the file.
+    QString previousFilePath() const;
+
+    /// Keeps the document, which the file holds, at `previousFilePath` for the first save of a day
+    /// by the local calendar; for a later one does nothing. Where it cannot be kept the next save
+    /// tries again: a save is not refused for want of an older one.
+    void keepPrevious(const QByteArray& document, std::chrono::sys_seconds now,
+                      const InformationFileManager& fileManager) const;
+
     friend bool operator==(const InformationWorkspaceRepository&,
                            const InformationWorkspaceRepository&) = default;
 };
+
+/// What a file with the document holds, in its current version.
+std::expected<InformationWorkspace, InformationWorkspaceRepository::LoadError>
+workspaceIn(const QByteArray& document);
 
 /// A decoded workspace of any supported version in its current form.
 /// @param catalog the signals whose ids older versions may hold, unique by id

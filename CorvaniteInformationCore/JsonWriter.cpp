@@ -53,6 +53,12 @@ void JsonWriter::integer(qint64 number)
     m_document += QByteArray::number(number);
 }
 
+void JsonWriter::boolean(bool value)
+{
+    startValue();
+    m_document += value ? "true" : "false";
+}
+
 void JsonWriter::begin(char bracket)
 {
     startValue();

@@ -21,6 +21,7 @@ public:
     void key(QAnyStringView name);
     void string(QStringView text);
     void integer(qint64 number);
+    void boolean(bool value);
 
     /// The finished document, with a line end.
     QByteArray document() const { return m_document + '\n'; }

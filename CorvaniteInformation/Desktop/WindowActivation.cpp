@@ -2,8 +2,12 @@
 
 #include <QWindow>
 
-void WindowActivation::bringUp(QWindow& window)
+void WindowActivation::bringUp(QWindow& window, const QByteArray& token)
 {
+    // Where Qt looks for the token of the next request, and takes it away.
+    if (!token.isEmpty()) {
+        qputenv("XDG_ACTIVATION_TOKEN", token);
+    }
     window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
     window.raise();
     window.requestActivate();

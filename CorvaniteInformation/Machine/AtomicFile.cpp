@@ -8,12 +8,15 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
 #include <limits.h>
 #include <memory>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 
 namespace {
 
@@ -23,6 +26,9 @@ constexpr qsizetype temporaryDigits = 16;
 
 constexpr int maximumLinks = 40;
 constexpr int maximumNameAttempts = 16;
+
+constexpr int maximumLockAttempts = 2000;
+constexpr std::chrono::milliseconds lockPause(1);
 
 std::unexpected<FileError> systemFailure()
 {
@@ -179,6 +185,49 @@ private:
     QByteArray m_name;
 };
 
+// Keeps the folder, until its descriptor is closed, from others that lock it. Where the file system
+// knows no locks there is nothing to wait for.
+std::expected<void, FileError> lock(int folder)
+{
+    for (int attempt = 0; attempt < maximumLockAttempts; ++attempt) {
+        if (::flock(folder, LOCK_EX | LOCK_NB) == 0 || (errno != EWOULDBLOCK && errno != EINTR)) {
+            return {};
+        }
+        std::this_thread::sleep_for(lockPause);
+    }
+    return std::unexpected(FileError{FileError::Reason::InUse});
+}
+
+// The last look, which may refuse, is given the descriptor of the file's folder.
+std::expected<void, FileError>
+replaceAfter(const QString& path, const QByteArray& bytes,
+             const std::function<std::expected<void, FileError>(int folder)>& lastLook)
+{
+    const auto location = replacedLocation(QFile::encodeName(path));
+    if (!location) {
+        return std::unexpected(location.error());
+    }
+    const FileDescriptor folder(
+        ::open(location->folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isOpen()) {
+        return systemFailure();
+    }
+    TemporaryFile file(folder.get());
+    if (const auto stored = file.store(bytes); !stored) {
+        return stored;
+    }
+    if (const auto ready = lastLook(folder.get()); !ready) {
+        return ready;
+    }
+    if (const auto replaced = file.takePlaceOf(location->name); !replaced) {
+        return replaced;
+    }
+    // The new file is in place: a save that failed now would contradict the disk. The next one
+    // syncs the folder again.
+    sync(folder.get());
+    return {};
+}
+
 // Gives the names of the symbolic links in the folder.
 QList<QByteArray> removeTemporaryFiles(const QByteArray& folder)
 {
@@ -204,26 +253,17 @@ QList<QByteArray> removeTemporaryFiles(const QByteArray& folder)
 
 std::expected<void, FileError> AtomicFile::replace(const QString& path, const QByteArray& bytes)
 {
-    const auto location = replacedLocation(QFile::encodeName(path));
-    if (!location) {
-        return std::unexpected(location.error());
-    }
-    const FileDescriptor folder(
-        ::open(location->folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!folder.isOpen()) {
-        return systemFailure();
-    }
-    TemporaryFile file(folder.get());
-    if (const auto stored = file.store(bytes); !stored) {
-        return stored;
-    }
-    if (const auto replaced = file.takePlaceOf(location->name); !replaced) {
-        return replaced;
-    }
-    // The new file is in place: a save that failed now would contradict the disk. The next one
-    // syncs the folder again.
-    sync(folder.get());
-    return {};
+    return replaceAfter(path, bytes, [](int) { return std::expected<void, FileError>(); });
+}
+
+std::expected<void, FileError>
+AtomicFile::replaceChecked(const QString& path, const QByteArray& bytes,
+                           const std::function<std::expected<void, FileError>()>& check)
+{
+    return replaceAfter(path, bytes, [&check](int folder) {
+        const auto locked = lock(folder);
+        return locked ? check() : locked;
+    });
 }
 
 std::expected<bool, FileError> AtomicFile::leadsIntoMissingFolder(const QString& path)

@@ -21,6 +21,12 @@ InstanceFileManager::readFile(const QString& path) const
     return m_files.readFile(path);
 }
 
+std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+InstanceFileManager::writtenAt(const QString& path) const
+{
+    return m_files.writtenAt(path);
+}
+
 std::expected<void, FileError> InstanceFileManager::createDirectory(const QString& path) const
 {
     return m_files.createDirectory(path);
@@ -33,4 +39,14 @@ std::expected<void, FileError> InstanceFileManager::replaceFile(const QString& p
         return held;
     }
     return m_files.replaceFile(path, bytes);
+}
+
+std::expected<void, FileError>
+InstanceFileManager::replaceReadFile(const QString& path, const std::optional<QByteArray>& read,
+                                     const QByteArray& bytes) const
+{
+    if (const auto held = m_instance.hold(); !held) {
+        return held;
+    }
+    return m_files.replaceReadFile(path, read, bytes);
 }

@@ -150,6 +150,19 @@ LocalFileManager::readFile(const QString& path) const
     return readAll(file.get(), status.st_size);
 }
 
+std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+LocalFileManager::writtenAt(const QString& path) const
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
+        if (errno == ENOENT || errno == ENOTDIR) {
+            return std::nullopt;
+        }
+        return readFailure();
+    }
+    return std::chrono::sys_seconds(std::chrono::seconds(status.st_mtim.tv_sec));
+}
+
 std::expected<void, FileError> LocalFileManager::createDirectory(const QString& path) const
 {
     return makeDirectory(QFile::encodeName(path));
@@ -159,6 +172,22 @@ std::expected<void, FileError> LocalFileManager::replaceFile(const QString& path
                                                              const QByteArray& bytes) const
 {
     return AtomicFile::replace(path, bytes);
+}
+
+std::expected<void, FileError>
+LocalFileManager::replaceReadFile(const QString& path, const std::optional<QByteArray>& read,
+                                  const QByteArray& bytes) const
+{
+    return AtomicFile::replaceChecked(path, bytes, [&]() -> std::expected<void, FileError> {
+        const auto present = readFile(path);
+        if (!present) {
+            return std::unexpected(present.error());
+        }
+        if (*present != read) {
+            return std::unexpected(FileError{FileError::Reason::ChangedMeanwhile});
+        }
+        return {};
+    });
 }
 
 void LocalFileManager::removeLeftovers(const QString& directory) const

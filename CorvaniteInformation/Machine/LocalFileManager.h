@@ -24,9 +24,14 @@ public:
     /// Only ordinary files, at most `maximumFileBytes` long; never waits for another program.
     std::expected<std::optional<QByteArray>, FileError>
     readFile(const QString& path) const override;
+    std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+    writtenAt(const QString& path) const override;
     std::expected<void, FileError> createDirectory(const QString& path) const override;
     std::expected<void, FileError> replaceFile(const QString& path,
                                                const QByteArray& bytes) const override;
+    std::expected<void, FileError> replaceReadFile(const QString& path,
+                                                   const std::optional<QByteArray>& read,
+                                                   const QByteArray& bytes) const override;
 
     /// Removes the temporary files that a killed `replaceFile` left for the folder's files, also
     /// where a link leads elsewhere. For the one process that holds the data directory.

@@ -12,20 +12,21 @@ constexpr unsigned long pauseMilliseconds = 50;
 } // namespace
 
 ProgramInstance::ProgramInstance(const std::optional<QString>& dataDirectory,
-                                 const LocalFileManager& fileManager)
+                                 const LocalFileManager& fileManager,
+                                 const QByteArray& activationToken)
     : m_dataDirectory(dataDirectory), m_fileManager(fileManager)
 {
     connect(&m_channel, &InstanceChannel::activationRequested, this,
             &ProgramInstance::activationRequested);
     if (m_dataDirectory) {
-        m_standing = findStanding();
+        m_standing = findStanding(activationToken);
     }
 }
 
 // Whoever holds the lock or is listening may be on its way, up or down: so it is asked for a while,
 // and its place is taken when it has gone. The socket counts beside the lock, for the lock's file
 // may have been deleted under the running program.
-ProgramInstance::Standing ProgramInstance::findStanding()
+ProgramInstance::Standing ProgramInstance::findStanding(const QByteArray& activationToken)
 {
     for (int left = furtherAttempts;; --left) {
         auto lock = InstanceLock::take(*m_dataDirectory, m_fileManager);
@@ -38,7 +39,7 @@ ProgramInstance::Standing ProgramInstance::findStanding()
             become(*std::move(lock));
             return Standing::First;
         }
-        if (InstanceChannel::requestActivation(name)) {
+        if (InstanceChannel::requestActivation(name, activationToken)) {
             return Standing::Later;
         }
         if (left == 0) {

@@ -30,8 +30,9 @@ public:
 
     /// @param dataDirectory nothing where the environment names none
     /// @param fileManager outlives the instance
+    /// @param activationToken what the desktop gave to this start, for a first one to come up by
     ProgramInstance(const std::optional<QString>& dataDirectory,
-                    const LocalFileManager& fileManager);
+                    const LocalFileManager& fileManager, const QByteArray& activationToken = {});
 
     Standing standing() const { return m_standing; }
 
@@ -41,10 +42,11 @@ public:
 
 Q_SIGNALS:
     /// A later start asks this process to come up.
-    void activationRequested();
+    /// @param token by which the desktop lets it, or empty
+    void activationRequested(const QByteArray& token);
 
 private:
-    Standing findStanding();
+    Standing findStanding(const QByteArray& activationToken);
     void become(InstanceLock lock);
 
     const std::optional<QString> m_dataDirectory;

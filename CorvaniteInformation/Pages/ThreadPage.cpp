@@ -2,8 +2,6 @@
 
 #include "OpenableAddress.h"
 
-#include <QScopedValueRollback>
-
 #include <utility>
 
 ThreadPage::Thread ThreadPage::Thread::from(const InformationSignal& signal)
@@ -18,6 +16,7 @@ void ThreadPage::setSignalId(const QString& signalId)
         return;
     }
     m_signalId = signalId;
+    m_hasWritten = false;
     Q_EMIT signalIdChanged();
     refresh();
 }
@@ -32,7 +31,7 @@ void ThreadPage::markSeen()
 void ThreadPage::writeNote(const QString& note)
 {
     if (workbench()) {
-        const QScopedValueRollback writing(m_writingNote, true);
+        m_hasWritten = true;
         workbench()->updateNote(m_signalId, note);
     }
 }
@@ -63,8 +62,9 @@ void ThreadPage::showSaved(std::optional<Saved> saved)
     }
     const bool noteDiffers = saved && (!m_saved || m_saved->note != saved->note);
     m_saved = std::move(saved);
+    m_hasWritten = m_hasWritten && kept();
     Q_EMIT keptChanged();
-    if (noteDiffers && !m_writingNote) {
+    if (noteDiffers && !m_hasWritten) {
         Q_EMIT noteReplaced();
     }
 }

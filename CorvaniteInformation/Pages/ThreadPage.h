@@ -48,7 +48,7 @@ public:
     /// Records that the reader has seen the signal.
     Q_INVOKABLE void markSeen();
     Q_INVOKABLE QString storedNote() const { return m_saved ? m_saved->note : QString(); }
-    /// Stores what the editor holds. Not answered by `noteReplaced`, also when it could not be
+    /// Stores what the editor holds. No `noteReplaced` from then on, also when it could not be
     /// stored: what the reader typed stays in the editor.
     Q_INVOKABLE void writeNote(const QString& note);
 
@@ -56,7 +56,8 @@ Q_SIGNALS:
     void signalIdChanged();
     void threadChanged();
     void keptChanged();
-    /// The stored note has changed otherwise than by `writeNote`.
+    /// The stored note has changed otherwise than by `writeNote`. Not told of a note that the
+    /// reader is writing: it stays as it is in the editor.
     void noteReplaced();
 
 protected:
@@ -90,5 +91,6 @@ private:
     RowListModel<ThreadRow> m_rows;
     /// Of a kept signal.
     std::optional<Saved> m_saved;
-    bool m_writingNote = false;
+    /// The reader has written in the note.
+    bool m_hasWritten = false;
 };

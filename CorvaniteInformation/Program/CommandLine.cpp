@@ -1,10 +1,14 @@
 #include "CommandLine.h"
 
+#include "KeptExport.h"
+
 #include <cstdlib>
 
 namespace {
 
 constexpr int wrongUse = 2;
+
+const QString exportOption = u"--export-kept"_qs;
 
 QString help()
 {
@@ -13,13 +17,21 @@ QString help()
            "打开信息工作台；已经打开时，让它的窗口回到前面。\n"
            "\n"
            "选项：\n"
-           "  -h, --help     显示这份说明\n"
-           "  -v, --version  显示版本\n"_qs;
+           "  --export-kept 文件 [资料库]  把收下的内容写到文件（.md、.json、.html；- "
+           "为标准输出）；\n"
+           "                               写了资料库，就读那一份，例如一份冲突副本\n"
+           "  -h, --help                   显示这份说明\n"
+           "  -v, --version                显示版本\n"_qs;
+}
+
+CommandLine::Answer told(const QString& reason, int exitCode)
+{
+    return {u"corvanite-information：%1\n"_qs.arg(reason), exitCode};
 }
 
 CommandLine::Answer refusal(const QString& reason)
 {
-    return {u"corvanite-information：%1\n用 --help 查看用法。\n"_qs.arg(reason), wrongUse};
+    return told(reason + u"\n用 --help 查看用法。"_qs, wrongUse);
 }
 
 // A session manager starts the programs of the last session again with an option of its own.
@@ -28,15 +40,30 @@ bool isRestoredSession(const QStringList& arguments)
     return arguments.size() == 2 && arguments.first() == u"-session";
 }
 
+CommandLine::Request keptExport(const QStringList& paths)
+{
+    if (paths.isEmpty() || paths.size() > 2) {
+        return refusal(u"--export-kept 后面写一个文件，还可以再写一份资料库。"_qs);
+    }
+    const QString& file = paths.first();
+    if (file != CommandLine::Export::standardOutput && !KeptExport::formatOf(file)) {
+        return refusal(u"“%1”不是以 .md、.json 或 .html 结尾。"_qs.arg(file));
+    }
+    return CommandLine::Export{
+        .file = file, .workspace = paths.size() > 1 ? std::optional(paths.last()) : std::nullopt};
+}
+
 } // namespace
 
-std::optional<CommandLine::Answer> CommandLine::answer(const QStringList& arguments,
-                                                       const QString& version)
+CommandLine::Request CommandLine::request(const QStringList& arguments, const QString& version)
 {
     if (arguments.isEmpty() || isRestoredSession(arguments)) {
-        return std::nullopt;
+        return Window();
     }
     const QString& first = arguments.first();
+    if (first == exportOption) {
+        return keptExport(arguments.sliced(1));
+    }
     if (arguments.size() > 1) {
         return refusal(u"一次只能用一个选项。"_qs);
     }
@@ -52,6 +79,10 @@ std::optional<CommandLine::Answer> CommandLine::answer(const QStringList& argume
 
 CommandLine::Answer CommandLine::unanswered()
 {
-    return {u"corvanite-information：信息工作台已经在运行，但没有回应；这次没有打开窗口。\n"_qs,
-            EXIT_FAILURE};
+    return failure(u"信息工作台已经在运行，但没有回应；这次没有打开窗口。"_qs);
+}
+
+CommandLine::Answer CommandLine::failure(const QString& reason)
+{
+    return told(reason, EXIT_FAILURE);
 }

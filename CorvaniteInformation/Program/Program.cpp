@@ -2,17 +2,20 @@
 
 #include "AppearancePortal.h"
 #include "CommandLine.h"
+#include "ExportKept.h"
 #include "FirstSize.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
 #include "ScreenReaderStatus.h"
+#include "TerminationSignals.h"
 #include "WindowActivation.h"
 
 #include <QDateTime>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QImage>
+#include <QNetworkProxyFactory>
 #include <QPixmap>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -35,9 +38,10 @@ QStringList argumentsOf(int argc, char* argv[])
 
 int tell(const CommandLine::Answer& answer)
 {
-    std::fputs(answer.text.toLocal8Bit().constData(),
-               answer.exitCode == EXIT_SUCCESS ? stdout : stderr);
-    return answer.exitCode;
+    auto* const output = answer.exitCode == EXIT_SUCCESS ? stdout : stderr;
+    const bool isTold =
+        std::fputs(answer.text.toLocal8Bit().constData(), output) >= 0 && std::fflush(output) == 0;
+    return isTold ? answer.exitCode : EXIT_FAILURE;
 }
 
 double secondsNow()
@@ -67,8 +71,13 @@ void chooseTextRendering(double devicePixelRatio)
 
 int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString& version)
 {
-    if (const auto answer = CommandLine::answer(argumentsOf(argc, argv), version)) {
+    const auto environment = QProcessEnvironment::systemEnvironment();
+    const auto request = CommandLine::request(argumentsOf(argc, argv), version);
+    if (const auto* const answer = std::get_if<CommandLine::Answer>(&request)) {
         return tell(*answer);
+    }
+    if (const auto* const keptExport = std::get_if<CommandLine::Export>(&request)) {
+        return tell(exportKept(*keptExport, environment));
     }
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     // Else a screen reader that starts later finds nothing: Qt 6.4 looks for one at the start
@@ -89,11 +98,11 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
         qFatal("The program was built for a site that is not secure: %s",
                qUtf8Printable(siteOrigin));
     }
+    // Which way that is, is asked for at the first request, after the first frame.
+    QNetworkProxyFactory::setUseSystemConfiguration(true);
     NetworkSiteClient siteClient(*site, NetworkSiteClient::Limits());
-    ProgramParts parts({.environment = QProcessEnvironment::systemEnvironment(),
-                        .now = secondsNow,
-                        .site = siteClient,
-                        .version = version});
+    ProgramParts parts(
+        {.environment = environment, .now = secondsNow, .site = siteClient, .version = version});
     if (parts.instance().standing() == ProgramInstance::Standing::Unanswered) {
         return tell(CommandLine::unanswered());
     }
@@ -123,7 +132,16 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
                      [window](bool reduced) { window->setProperty("reducedMotion", reduced); });
     QObject::connect(&screenReader, &ScreenReaderStatus::presentChanged, window,
                      [window](bool present) { window->setProperty("readAloud", present); });
-    QObject::connect(&parts.instance(), &ProgramInstance::activationRequested, window,
-                     [window] { WindowActivation::bringUp(*window); });
+    QObject::connect(
+        &parts.instance(), &ProgramInstance::activationRequested, window,
+        [window](const QByteArray& token) { WindowActivation::bringUp(*window, token); });
+    QObject::connect(window, &QWindow::activeChanged, window, [window, &parts] {
+        if (window->isActive()) {
+            parts.catchUp();
+        }
+    });
+    const TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::endRequested, window,
+                     &QWindow::close);
     return QGuiApplication::exec();
 }

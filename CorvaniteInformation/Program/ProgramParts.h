@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FileWatch.h"
 #include "InformationModel.h"
 #include "InstanceFileManager.h"
 
@@ -31,9 +32,14 @@ public:
     /// Nothing where another process works with the data directory, and this one should end.
     InformationModel* model() { return m_model ? &*m_model : nullptr; }
 
+    /// Has the model catch up with what is stored, without waiting to be told of a change. Only
+    /// with a model.
+    void catchUp();
+
 private:
     const LocalFileManager m_machine;
     ProgramInstance m_instance;
     const InstanceFileManager m_fileManager;
+    std::optional<FileWatch> m_workspaceWatch;
     std::optional<InformationModel> m_model;
 };

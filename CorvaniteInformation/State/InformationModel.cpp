@@ -275,7 +275,17 @@ void InformationModel::openThread(const QString& signalId)
     }
 }
 
-// Refresh and probe
+// Storage, refresh and probe
+
+void InformationModel::catchUpWithStorage()
+{
+    assertMainThread();
+    bool isOther = false;
+    changeUndo([&] { isOther = m_journal.catchUp(); });
+    if (isOther) {
+        announceWorkspace();
+    }
+}
 
 void InformationModel::refreshPackFromSite()
 {
@@ -341,9 +351,12 @@ bool InformationModel::transact(const WorkspaceJournal::Change& change,
     changeUndo([&] { m_journal.apply(change); });
     announceWorkspace();
     announce();
-    const auto stored = m_journal.store();
-    if (!stored) {
+    std::expected<bool, QString> stored;
+    changeUndo([&] { stored = m_journal.store(wholeSecondsNow()); });
+    if (!stored || *stored) {
         announceWorkspace();
+    }
+    if (!stored) {
         m_receipt = std::nullopt;
         m_errorMessage = stored.error();
     }

@@ -64,7 +64,8 @@ public:
         QString runningVersion;
     };
 
-    /// Loads the workspace. A stored one that cannot be read is reported and never overwritten.
+    /// Loads the workspace. A stored one that cannot be read is reported and never overwritten;
+    /// once it can be, it is shown and the next action is saved.
     InformationModel(Collaborators collaborators, InformationContent content,
                      std::optional<InformationWorkspaceRepository> repository,
                      QObject* parent = nullptr);
@@ -164,6 +165,10 @@ public:
     /// Opens the thread of a live or retired signal; an unknown id does nothing.
     Q_INVOKABLE void openThread(const QString& signalId);
     Q_INVOKABLE void closeThread() { assign(m_openThread, std::nullopt); }
+
+    /// Shows what something else has stored since the workspace was last read or saved; empties the
+    /// undo slot then. What does not read changes nothing.
+    void catchUpWithStorage();
 
     /// Fetches the site's pack and shows it where it is newer than the content. Ends by saying in
     /// `packSyncNote` how it went. Does nothing while a refresh runs.

@@ -52,6 +52,12 @@ private Q_SLOTS:
         QCOMPARE(error.localizedDescription(), u"数据目录正由另一个运行中的程序使用。"_qs);
     }
 
+    void saysThatTheFileChangedMeanwhile()
+    {
+        const FileError error{FileError::Reason::ChangedMeanwhile};
+        QCOMPARE(error.localizedDescription(), u"文件刚刚在别处有了改动；请再试一次。"_qs);
+    }
+
     void tellsReadingFromWriting()
     {
         const FileError error{FileError::Reason::ReadPermissionDenied};

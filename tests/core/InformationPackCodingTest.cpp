@@ -3,6 +3,8 @@
 #include "FormatExamples.h"
 #include "Subject.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QTest>
 
 using namespace InformationPackCoding;

@@ -6,6 +6,7 @@
 #include "MemoryFileManager.h"
 #include "Subject.h"
 
+#include <QJsonArray>
 #include <QTest>
 
 using namespace InformationPackSync;

@@ -5,6 +5,7 @@
 #include "SampleSignal.h"
 #include "Subject.h"
 
+#include <QDateTime>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -12,6 +13,7 @@ using namespace std::chrono_literals;
 namespace {
 
 const QString filePath = u"/support/Corvanite/Information/workspace-v1.json"_qs;
+const QString previousPath = u"/support/Corvanite/Information/workspace-v1.previous.json"_qs;
 const InformationWorkspaceRepository repository{filePath};
 
 InformationWorkspace sampleWorkspace()
@@ -228,6 +230,74 @@ private Q_SLOTS:
         QVERIFY(repository.save(workspace, fileManager));
 
         QVERIFY(fileManager.files.value(filePath).contains("\"version\": 2"));
+    }
+
+    void savingOverWhatWasReadRefusesAnythingElse_data()
+    {
+        QTest::addColumn<std::optional<QByteArray>>("stored");
+        QTest::addColumn<std::optional<QByteArray>>("read");
+
+        const std::optional<QByteArray> none;
+        const std::optional<QByteArray> one("{}");
+        const std::optional<QByteArray> another("{ }");
+        QTest::newRow("as read") << one << one;
+        QTest::newRow("no file yet") << none << none;
+        QTest::newRow("another") << another << one;
+        QTest::newRow("gone") << none << one;
+        QTest::newRow("come") << one << none;
+    }
+
+    void savingOverWhatWasReadRefusesAnythingElse()
+    {
+        QFETCH(const std::optional<QByteArray>, stored);
+        QFETCH(const std::optional<QByteArray>, read);
+        MemoryFileManager fileManager;
+        if (stored) {
+            fileManager.files.insert(filePath, *stored);
+        }
+
+        const auto saved = repository.saveOver(read, sampleWorkspace(), fileManager);
+
+        QCOMPARE(saved.has_value(), stored == read);
+        QCOMPARE(fileManager.files.value(filePath), saved.value_or(stored.value_or(QByteArray())));
+        if (!saved) {
+            QCOMPARE(saved.error().reason, FileError::Reason::ChangedMeanwhile);
+        }
+    }
+
+    void keepsOneFileADay_data()
+    {
+        QTest::addColumn<std::optional<QDateTime>>("keptAt");
+        QTest::addColumn<bool>("isKept");
+
+        QTest::newRow("the first of all") << std::optional<QDateTime>() << true;
+        QTest::newRow("yesterday's last second")
+            << std::optional(QDateTime(QDate(2026, 9, 1), QTime(23, 59, 59))) << true;
+        QTest::newRow("today's first second")
+            << std::optional(QDateTime(QDate(2026, 9, 2), QTime(0, 0))) << false;
+        QTest::newRow("today's last second")
+            << std::optional(QDateTime(QDate(2026, 9, 2), QTime(23, 59, 59))) << false;
+        QTest::newRow("the clock was ahead")
+            << std::optional(QDateTime(QDate(2026, 9, 3), QTime(0, 0))) << true;
+    }
+
+    void keepsOneFileADay()
+    {
+        QFETCH(const std::optional<QDateTime>, keptAt);
+        QFETCH(const bool, isKept);
+        const auto seconds = [](const QDateTime& time) {
+            return std::chrono::sys_seconds(std::chrono::seconds(time.toSecsSinceEpoch()));
+        };
+        MemoryFileManager fileManager;
+        fileManager.files.insert(previousPath, "old");
+        if (keptAt) {
+            fileManager.times.insert(previousPath, seconds(*keptAt));
+        }
+
+        repository.keepPrevious("new", seconds(QDateTime(QDate(2026, 9, 2), QTime(12, 0))),
+                                fileManager);
+
+        QCOMPARE(fileManager.files.value(previousPath), QByteArray(isKept ? "new" : "old"));
     }
 
     void aFailedSaveKeepsTheOldFile()

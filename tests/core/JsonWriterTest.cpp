@@ -20,6 +20,8 @@ private Q_SLOTS:
         writer.key("array");
         writer.beginArray();
         writer.integer(-7);
+        writer.boolean(true);
+        writer.boolean(false);
         writer.string(u"a/b");
         writer.beginObject();
         writer.endObject();
@@ -35,6 +37,8 @@ private Q_SLOTS:
   "empty array": [],
   "array": [
     -7,
+    true,
+    false,
     "a/b",
     {}
   ],

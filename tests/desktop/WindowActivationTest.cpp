@@ -33,6 +33,18 @@ private Q_SLOTS:
         QTRY_VERIFY(window.isActive());
     }
 
+    // The platform takes it from there at the next request.
+    void theTokenIsLaidReady()
+    {
+        QWindow window;
+        WindowActivation::bringUp(window, "token");
+        QCOMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), QByteArray("token"));
+
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+        WindowActivation::bringUp(window);
+        QVERIFY(!qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
+    }
+
     void comesBeforeTheOthers()
     {
         QWindow screen;

@@ -76,6 +76,11 @@ class Tour:
         self._program.wait_for("链接或一句话").set_text("http://127.0.0.1/")
         self._program.wait_for("交给 Corvanite", "push button").press()
 
+    def keys(self) -> None:
+        self.today()
+        self._program.press_keys("F1")
+        self._program.wait_for("键盘操作", "dialog")
+
     def kept_empty(self) -> None:
         self._program.press_keys("ctrl+2")
 
@@ -178,6 +183,7 @@ SCREENS = [
     Screen("thread", Tour.thread),
     Screen("hand-in", Tour.hand_in),
     Screen("hand-in, not supported", Tour.hand_in_not_supported),
+    Screen("keys", Tour.keys),
     Screen("kept", Tour.kept),
     Screen("kept, no match", Tour.kept_no_match),
     Screen("weekly", Tour.weekly),

@@ -53,6 +53,17 @@ class KeyboardTest(DesktopTest):
             program.press_keys("ctrl+1", "ctrl+z")
             workspace_when(world.data_home, lambda w: not w["customSources"], "nothing is stored")
 
+    def test_the_keys_themselves(self) -> None:
+        with self.world() as world:
+            program = world.start(PROGRAM)
+            program.wait_until(program.is_active, "the window is active")
+            for keys in ("F1", "ctrl+slash"):
+                program.press_keys(keys)
+                program.wait_until(lambda: has_focus(program, "关闭"), "the sheet has the focus")
+                program.wait_for_beginning("Ctrl+N ")
+                program.press_keys("Escape")
+                program.wait_until_gone("键盘操作")
+
     def test_a_card_a_thread_and_an_archived_day(self) -> None:
         with self.world() as world:
             program = world.start(PROGRAM)

@@ -2,6 +2,7 @@
 """What the program says on the terminal, and how a second start meets the first."""
 
 import fcntl
+import json
 import os
 import subprocess
 import tempfile
@@ -50,6 +51,24 @@ class OptionsTest(unittest.TestCase):
             self.assertEqual((2, ""), (status, output))
             self.assertIn(f"“{argument}”", error)
             self.assertIn("--help", error)
+
+
+class ExportTest(unittest.TestCase):
+    def test_writes_what_is_kept_without_a_display(self):
+        with tempfile.TemporaryDirectory() as folder:
+            environment = {**WITHOUT_DISPLAY, "XDG_DATA_HOME": folder}
+            self.assertEqual(
+                (0, "# 已收下\n", ""), answer("--export-kept", "-", environment=environment))
+            file = Path(folder) / "kept.json"
+            self.assertEqual(0, answer("--export-kept", str(file), environment=environment)[0])
+            self.assertEqual([], json.loads(file.read_text())["threads"])
+            self.assertEqual([file], list(Path(folder).iterdir()))
+
+    def test_says_when_nobody_takes_the_output(self):
+        with open("/dev/full", "w") as full:
+            done = subprocess.run([PROGRAM, "--export-kept", "-"], env=WITHOUT_DISPLAY | {
+                "HOME": "/nonexistent"}, stdout=full, stderr=subprocess.PIPE, timeout=PATIENCE)
+        self.assertEqual(1, done.returncode)
 
 
 class SecondStartTest(unittest.TestCase):

@@ -174,6 +174,37 @@ private Q_SLOTS:
         QCOMPARE(replaced.error(), FileError::fromSystemError(EFBIG));
         QVERIFY(folder.holdsOnly(oldBytes));
     }
+
+    void aFileThatFailsTheLastLookStays()
+    {
+        const FolderWithFile folder;
+
+        const auto replaced = AtomicFile::replaceChecked(folder.file(), newBytes, [] {
+            return std::unexpected(FileError{Reason::ChangedMeanwhile});
+        });
+
+        QCOMPARE(replaced.error().reason, Reason::ChangedMeanwhile);
+        QVERIFY(folder.holdsOnly(oldBytes));
+    }
+
+    void nobodyReplacesBetweenAnothersLookAndReplacing()
+    {
+        const FolderWithFile folder;
+        const auto fine = [] { return std::expected<void, FileError>(); };
+        std::optional<FileError> refusal;
+
+        const auto replaced = AtomicFile::replaceChecked(folder.file(), newBytes, [&] {
+            if (const auto other = AtomicFile::replaceChecked(folder.file(), "others", fine);
+                !other) {
+                refusal = other.error();
+            }
+            return fine();
+        });
+
+        QVERIFY(replaced);
+        QCOMPARE(refusal, FileError{Reason::InUse});
+        QVERIFY(folder.holdsOnly(newBytes));
+    }
 };
 
 TEST_SUBJECT(AtomicFileTest)

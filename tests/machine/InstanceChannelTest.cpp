@@ -60,6 +60,50 @@ private Q_SLOTS:
         QCOMPARE(requests.size(), 2);
     }
 
+    void aRequestBringsItsToken_data()
+    {
+        QTest::addColumn<QByteArray>("token");
+        QTest::addColumn<QByteArray>("heard");
+
+        const QByteArray longest(1024, 't');
+        QTest::newRow("none") << QByteArray() << QByteArray();
+        QTest::newRow("token") << QByteArray("gnome-shell/1234_TIME5")
+                               << QByteArray("gnome-shell/1234_TIME5");
+        QTest::newRow("longest") << longest << longest;
+        QTest::newRow("longer") << longest + 't' << QByteArray();
+        QTest::newRow("two lines") << QByteArray("a\nb") << QByteArray();
+        QTest::newRow("not ASCII") << QByteArray("令牌") << QByteArray();
+    }
+
+    void aRequestBringsItsToken()
+    {
+        QFETCH(const QByteArray, token);
+        QFETCH(const QByteArray, heard);
+        InstanceChannel channel;
+        const QSignalSpy requests(&channel, &InstanceChannel::activationRequested);
+        QVERIFY(channel.listen(m_name));
+
+        QVERIFY(requestFromAnotherThread(token));
+
+        QCOMPARE(requests.size(), 1);
+        QCOMPARE(requests.first().first().toByteArray(), heard);
+    }
+
+    void aLineThatGoesOnIsNoToken()
+    {
+        InstanceChannel channel;
+        const QSignalSpy requests(&channel, &InstanceChannel::activationRequested);
+        QVERIFY(channel.listen(m_name));
+        QLocalSocket socket;
+        socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+        socket.connectToServer(m_name);
+
+        socket.write(QByteArray(5000, 't'));
+
+        QTRY_COMPARE(requests.size(), 1);
+        QCOMPARE(requests.first().first().toByteArray(), QByteArray());
+    }
+
     void onlyOneListens()
     {
         std::optional<InstanceChannel> first(std::in_place);
@@ -138,7 +182,7 @@ private Q_SLOTS:
         silent.setSocketOptions(QLocalServer::AbstractNamespaceOption);
         QVERIFY(silent.listen(m_name));
 
-        QVERIFY(!InstanceChannel::requestActivation(m_name, 1ms));
+        QVERIFY(!InstanceChannel::requestActivation(m_name, {}, 1ms));
     }
 
     // As the one of a program that ends at this moment.
@@ -179,11 +223,11 @@ private:
         return thread;
     }
 
-    bool requestFromAnotherThread()
+    bool requestFromAnotherThread(const QByteArray& token = {})
     {
         bool taken = false;
         std::unique_ptr<QThread> second(QThread::create(
-            [this, &taken] { taken = InstanceChannel::requestActivation(m_name); }));
+            [&, this] { taken = InstanceChannel::requestActivation(m_name, token); }));
         second->start();
         return QTest::qWaitFor([&second] { return second->isFinished(); }, 20000) && taken;
     }

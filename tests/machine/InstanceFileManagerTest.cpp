@@ -44,6 +44,8 @@ private Q_SLOTS:
         writeFile(m_path, "another's");
 
         QCOMPARE(files.replaceFile(m_path, "bytes").error().reason, FileError::Reason::InUse);
+        QCOMPARE(files.replaceReadFile(m_path, "another's", "bytes").error().reason,
+                 FileError::Reason::InUse);
 
         QCOMPARE(files.readFile(m_path).value(), std::optional(QByteArray("another's")));
     }

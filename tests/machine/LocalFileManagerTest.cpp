@@ -5,6 +5,7 @@
 #include "OrdinaryUser.h"
 #include "Subject.h"
 
+#include <QDateTime>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -345,6 +346,67 @@ private Q_SLOTS:
 
         QCOMPARE(fileManager.readFile(path).value(), std::optional(QByteArray("two")));
         QCOMPARE(modeOf(path), 0600);
+    }
+
+    void whatWasReadIsReplaced_data()
+    {
+        QTest::addColumn<std::optional<QByteArray>>("stored");
+        QTest::addColumn<std::optional<QByteArray>>("read");
+
+        const std::optional<QByteArray> none;
+        const std::optional<QByteArray> bytes("bytes");
+        QTest::newRow("as read") << bytes << bytes;
+        QTest::newRow("no file") << none << none;
+        QTest::newRow("another of the same length") << std::optional(QByteArray("BYTES")) << bytes;
+        QTest::newRow("gone") << none << bytes;
+        QTest::newRow("come") << bytes << none;
+    }
+
+    void whatWasReadIsReplaced()
+    {
+        QFETCH(const std::optional<QByteArray>, stored);
+        QFETCH(const std::optional<QByteArray>, read);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"file"_qs);
+        if (stored) {
+            writeFile(path, *stored);
+        }
+
+        const auto replaced = fileManager.replaceReadFile(path, read, "new");
+
+        QCOMPARE(replaced.has_value(), stored == read);
+        QCOMPARE(fileManager.readFile(path).value(), replaced ? "new" : stored);
+        if (!replaced) {
+            QCOMPARE(replaced.error().reason, Reason::ChangedMeanwhile);
+        }
+    }
+
+    void whatMayNotBeReadAnyMoreIsNotReplaced()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"file"_qs);
+        writeFile(path, "bytes");
+        QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0), 0);
+
+        const auto replaced = fileManager.replaceReadFile(path, "bytes", "new");
+
+        QCOMPARE(replaced.error().reason, Reason::ReadPermissionDenied);
+    }
+
+    void tellsWhenAFileWasWritten()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"file"_qs);
+        QCOMPARE(fileManager.writtenAt(path).value(), std::nullopt);
+        writeFile(path, "bytes");
+
+        QFile file(path);
+        const std::chrono::sys_seconds time{std::chrono::seconds(1'788'314'400)};
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::fromSecsSinceEpoch(time.time_since_epoch().count()),
+                                 QFileDevice::FileModificationTime));
+        QCOMPARE(fileManager.writtenAt(path).value(), time);
+        QVERIFY(!fileManager.writtenAt(QString(5000, u'x')));
     }
 
     void removesLeftovers()

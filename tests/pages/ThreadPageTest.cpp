@@ -140,6 +140,42 @@ private Q_SLOTS:
         QCOMPARE(page.storedNote(), u"别处写的"_qs);
     }
 
+    // It gave way to what another program had stored, and the cursor went to its beginning.
+    void aNoteThatIsBeingWrittenStays()
+    {
+        SampleModel sample;
+        const auto model = sample.make();
+        model->toggleKeep(u"a"_qs);
+        ThreadPage page;
+        open(page, *model);
+        page.writeNote(u"正在写"_qs);
+        const QSignalSpy replaced(&page, &ThreadPage::noteReplaced);
+
+        sample.make()->updateNote(u"a"_qs, u"别处写的"_qs);
+        model->catchUpWithStorage();
+        QVERIFY(replaced.isEmpty());
+        page.writeNote(u"正在写的"_qs);
+
+        QCOMPARE(sample.make()->workspace().saved.at(u"a"_qs).note, u"正在写的"_qs);
+    }
+
+    void aNoteThatWasWrittenIsReplacedOnceItsCardHasBeenAway()
+    {
+        SampleModel sample;
+        const auto model = sample.make();
+        model->toggleKeep(u"a"_qs);
+        ThreadPage page;
+        open(page, *model);
+        page.writeNote(u"写过"_qs);
+        const QSignalSpy replaced(&page, &ThreadPage::noteReplaced);
+
+        model->removeKept(u"a"_qs);
+        model->undoLastAction();
+
+        QCOMPARE(replaced.size(), 1);
+        QCOMPARE(page.storedNote(), u"写过"_qs);
+    }
+
     void showsTheNoteOfTheThreadsSavedVersion()
     {
         SampleModel sample;

@@ -2,6 +2,7 @@
 
 #include "FileTree.h"
 
+#include <QDateTime>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -13,6 +14,7 @@ class DataFolder
 public:
     static inline const QString storage = u"support/Corvanite/Information"_qs;
     static inline const QString workspace = storage + u"/workspace-v1.json"_qs;
+    static inline const QString previous = storage + u"/workspace-v1.previous.json"_qs;
     static inline const QString pack = storage + u"/information-pack.json"_qs;
     static inline const QString retired = storage + u"/retired-signals.json"_qs;
     static inline const QString elsewhere = u"elsewhere"_qs;
@@ -44,6 +46,17 @@ public:
     {
         QDir().mkpath(QFileInfo(path(name)).path());
         writeFile(path(name), bytes);
+    }
+
+    /// Sets when the file was last written, in seconds since 1970.
+    void setWrittenAt(const QString& name, qint64 seconds) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::ReadWrite) ||
+            !file.setFileTime(QDateTime::fromSecsSinceEpoch(seconds),
+                              QFileDevice::FileModificationTime)) {
+            qFatal("%s has no time", qUtf8Printable(name));
+        }
     }
 
     /// The temporary files that saves left.

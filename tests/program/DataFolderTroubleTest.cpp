@@ -166,18 +166,13 @@ private Q_SLOTS:
             QCOMPARE(folder.content(DataFolder::workspace), before);
             model.dismissError();
             model.addSource(u"再试一次"_qs);
-            const bool isStorageUsable = trouble.afterTheStart != noStorage;
-            QCOMPARE(model.errorText(), isStorageUsable ? QString() : noStorage);
-            if (isStorageUsable) {
-                auto workspace =
-                    InformationWorkspaceCoding::decode(folder.content(DataFolder::workspace));
-                QVERIFY(workspace);
-                QCOMPARE(*workspace, model.workspace());
-                workspace->customSources.removeLast();
-                QCOMPARE(InformationWorkspaceCoding::encode(*workspace), before);
-            } else {
-                QCOMPARE(folder.content(DataFolder::workspace), before);
-            }
+            QCOMPARE(model.errorText(), QString());
+            auto workspace =
+                InformationWorkspaceCoding::decode(folder.content(DataFolder::workspace));
+            QVERIFY(workspace);
+            QCOMPARE(*workspace, model.workspace());
+            workspace->customSources.removeLast();
+            QCOMPARE(InformationWorkspaceCoding::encode(*workspace), before);
         }
         verifyNextStart(folder);
     }

@@ -15,43 +15,30 @@ class KernelFaultTest : public QObject
 private Q_SLOTS:
     void aFullDiskKeepsTheOldFile()
     {
-        const DataFolder unmounted;
-        unmounted.store(DataFolder::workspace, storedWorkspace());
+        const DataFolder contents;
+        fill(contents);
         const DataFolder folder;
-        const QString refusal = refusalOf(onSmallDisk(unmounted, folder) + QStringList{u"true"_qs});
-        if (!refusal.isEmpty()) {
+        const QStringList onDisk = onSmallDisk(contents, folder);
+        if (const QString refusal = refusalOf(onDisk); !refusal.isEmpty()) {
             QSKIP(qUtf8Printable(u"no disk of its own may be mounted here: "_qs + refusal));
         }
-        SavingProcess process(folder, m_site.path(), {}, onSmallDisk(unmounted, folder));
+        SavingProcess process(folder, onDisk);
         QVERIFY(process.isAlive());
-        const QString disk = u"/proc/%1/root"_qs.arg(process.id());
-        const auto stored = [&] { return contentOf(disk + folder.path(DataFolder::workspace)); };
-        const QStringList names = namesIn(disk + folder.path(DataFolder::storage));
-        const QByteArray before = stored();
-        QVERIFY(before.size() > 4 * pageBytes);
 
         // One page of the disk more each time, until the file goes into it.
+        const QString disk = u"/proc/%1/root"_qs.arg(process.id());
         QFile filler(disk + folder.path(u"filler"_qs));
-        QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-        while (filler.write(QByteArray(pageBytes, 'x')) == pageBytes) {
-        }
+        fillDisk(filler);
         int refused = 0;
-        for (;; ++refused) {
-            process.act(u"dismiss the error"_qs);
-            process.act(u"note"_qs);
-            QVERIFY(process.isAlive());
-            QCOMPARE(namesIn(disk + folder.path(DataFolder::storage)), names);
-            if (process.belief(u"error"_qs).isEmpty()) {
-                break;
-            }
-            QCOMPARE(process.belief(u"error"_qs),
-                     u"没有保存这次操作：磁盘空间不足；腾出一些空间后再试。"_qs);
-            QCOMPARE(stored(), before);
+        while (isRefusedForWantOfSpace(process, disk, folder)) {
             QVERIFY(filler.resize(filler.size() - pageBytes));
+            ++refused;
         }
+
         QVERIFY(refused > 4);
-        QVERIFY(stored() != before);
-        QCOMPARE(process.belief(u"workspace"_qs).toUtf8(), stored());
+        const auto stored = contentOf(disk + folder.path(DataFolder::workspace));
+        QVERIFY(stored != m_workspace);
+        QCOMPARE(process.seen(u"workspace"_qs).toUtf8(), stored);
         QVERIFY(process.ends());
     }
 
@@ -59,21 +46,21 @@ private Q_SLOTS:
     void aReadOnlyDiskIsShownAndASaveSaysSo()
     {
         const DataFolder folder;
-        folder.store(DataFolder::workspace, storedWorkspace());
-        const QString refusal = refusalOf(onReadOnlyDisk(folder) + QStringList{u"true"_qs});
-        if (!refusal.isEmpty()) {
+        fill(folder);
+        const QStringList onDisk = onReadOnlyDisk(folder);
+        if (const QString refusal = refusalOf(onDisk); !refusal.isEmpty()) {
             QSKIP(qUtf8Printable(u"no disk may be mounted read-only here: "_qs + refusal));
         }
-        SavingProcess process(folder, m_site.path(), {}, onReadOnlyDisk(folder));
+        SavingProcess process(folder, onDisk);
         QVERIFY(process.isAlive());
-        QCOMPARE(process.belief(u"error"_qs), QString());
-        QCOMPARE(process.belief(u"workspace"_qs).toUtf8(), folder.content(DataFolder::workspace));
+        QCOMPARE(process.seen(u"error"_qs), QString());
+        QCOMPARE(process.seen(u"workspace"_qs).toUtf8(), m_workspace);
 
         process.act(u"add"_qs);
 
         QVERIFY(process.isAlive());
-        QCOMPARE(process.belief(u"error"_qs), u"没有保存这次操作：磁盘只读，无法写入。"_qs);
-        QCOMPARE(process.belief(u"workspace"_qs).toUtf8(), folder.content(DataFolder::workspace));
+        QCOMPARE(process.seen(u"error"_qs), u"没有保存这次操作：磁盘只读，无法写入。"_qs);
+        QCOMPARE(process.seen(u"workspace"_qs).toUtf8(), m_workspace);
         QVERIFY(process.ends());
     }
 
@@ -100,48 +87,87 @@ private Q_SLOTS:
 
     void aCallThatTheKernelFailsLosesNothing()
     {
-        QFETCH(QString, calls);
-        QFETCH(int, number);
-        QFETCH(QString, fault);
-        QFETCH(bool, isSaved);
+        QFETCH(const QString, calls);
+        QFETCH(const int, number);
+        QFETCH(const QString, fault);
+        QFETCH(const bool, isSaved);
         const DataFolder folder;
-        const QByteArray before = storedWorkspace();
-        folder.store(DataFolder::workspace, before);
-        const QString log = folder.runtime() + u"/strace"_qs;
-        const QStringList strace{u"strace"_qs, u"-f"_qs, u"-o"_qs,
-                                 log,          u"-e"_qs, u"trace="_qs + calls};
-        const QString refusal = refusalOf(strace + QStringList{u"true"_qs});
-        if (!refusal.isEmpty()) {
+        fill(folder);
+        const QStringList strace{u"strace"_qs,  u"-f"_qs, u"-o"_qs,
+                                 logOf(folder), u"-e"_qs, u"trace="_qs + calls};
+        if (const QString refusal = refusalOf(strace); !refusal.isEmpty()) {
             QSKIP(qUtf8Printable(u"strace does not work here: "_qs + refusal));
         }
-        SavingProcess process(
-            folder, m_site.path(), {},
-            strace +
-                QStringList{u"-e"_qs, u"inject=%1:%2:when=%3"_qs.arg(calls, fault).arg(number)});
+        const QString injection = u"inject=%1:%2:when=%3"_qs.arg(calls, fault).arg(number);
+        SavingProcess process(folder, strace + QStringList{u"-e"_qs, injection});
+
         process.act(u"note"_qs);
 
         if (fault == u"signal=SIGKILL") {
             QVERIFY(process.wasKilled());
         } else {
-            QVERIFY(contentOf(log).contains("(INJECTED)"));
-            QVERIFY(process.isAlive());
-            QCOMPARE(process.belief(u"error"_qs).isEmpty(), isSaved);
-            QCOMPARE(folder.leftovers(), QStringList());
-            QCOMPARE(process.belief(u"workspace"_qs).toUtf8(),
-                     folder.content(DataFolder::workspace));
+            verifyTold(process, folder, isSaved);
+            verifyNextAction(process);
         }
-        QCOMPARE(folder.content(DataFolder::workspace) != before, isSaved);
-        if (process.isAlive()) {
-            process.act(u"dismiss the error"_qs);
-            process.act(u"add"_qs);
-            QCOMPARE(process.belief(u"error"_qs), QString());
-            QVERIFY(process.ends());
-        }
+        QCOMPARE(folder.content(DataFolder::workspace).contains("写下的备注"), isSaved);
         verifyNextStart(folder);
     }
 
 private:
     static constexpr int pageBytes = 4096;
+
+    // With a file of the day before, so that only the workspace is stored.
+    void fill(const DataFolder& folder) const
+    {
+        folder.store(DataFolder::workspace, m_workspace);
+        folder.store(DataFolder::previous, "{}");
+        folder.setWrittenAt(DataFolder::previous, ProgramStart::now);
+    }
+
+    static void fillDisk(QFile& filler)
+    {
+        QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        while (filler.write(QByteArray(pageBytes, 'x')) == pageBytes) {
+        }
+    }
+
+    // Whether a note is refused; then nothing has changed.
+    bool isRefusedForWantOfSpace(SavingProcess& process, const QString& disk,
+                                 const DataFolder& folder) const
+    {
+        const auto names = [&] { return namesIn(disk + folder.path(DataFolder::storage)); };
+        const QStringList before = names();
+        process.act(u"dismiss the error"_qs);
+        process.act(u"note"_qs);
+        if (!process.isAlive() || names() != before) {
+            qFatal("a save on a full disk left something else");
+        }
+        if (process.seen(u"error"_qs).isEmpty()) {
+            return false;
+        }
+        return process.seen(u"error"_qs) ==
+                   u"没有保存这次操作：磁盘空间不足；腾出一些空间后再试。"_qs &&
+               contentOf(disk + folder.path(DataFolder::workspace)) == m_workspace;
+    }
+
+    static QString logOf(const DataFolder& folder) { return folder.runtime() + u"/strace"_qs; }
+
+    static void verifyTold(const SavingProcess& process, const DataFolder& folder, bool isSaved)
+    {
+        QVERIFY(contentOf(logOf(folder)).contains("(INJECTED)"));
+        QVERIFY(process.isAlive());
+        QCOMPARE(process.seen(u"error"_qs).isEmpty(), isSaved);
+        QCOMPARE(folder.leftovers(), QStringList());
+        QCOMPARE(process.seen(u"workspace"_qs).toUtf8(), folder.content(DataFolder::workspace));
+    }
+
+    static void verifyNextAction(SavingProcess& process)
+    {
+        process.act(u"dismiss the error"_qs);
+        process.act(u"add"_qs);
+        QCOMPARE(process.seen(u"error"_qs), QString());
+        QVERIFY(process.ends());
+    }
 
     // A command that runs what is appended to it where the folder is a disk of 256 KiB with the
     // contents of the other.
@@ -172,9 +198,10 @@ private:
                 folder.path()};
     }
 
-    // Why this machine does not run the command; empty where it does.
+    // Why this machine runs nothing under the command; empty where it does.
     static QString refusalOf(QStringList command)
     {
+        command.append(u"true"_qs);
         QProcess process;
         const QString program = command.takeFirst();
         process.start(program, command);
@@ -185,7 +212,7 @@ private:
         return process.exitCode() == 0 ? QString() : said + u" ("_qs + program + u')';
     }
 
-    QTemporaryDir m_site;
+    const QByteArray m_workspace = storedWorkspace();
 };
 
 TEST_SUBJECT(KernelFaultTest)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "DataFolder.h"
-#include "FaultSettings.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,31 +9,20 @@
 #include <csignal>
 #include <optional>
 
-/// A run of the saving program under the fault library.
+/// A run of the saving program.
 class SavingProcess
 {
 public:
     /// Starts it, and waits until it has or is gone.
-    /// @param folder where its calls are counted
-    /// @param site with what the site publishes
-    /// @param plan as FaultSettings::plan has it
     /// @param wrapper a command that the program's own is appended to
-    SavingProcess(const DataFolder& folder, const QString& site, const QString& plan,
-                  QStringList wrapper = {})
-        : m_trace(folder.runtime() + u"/trace"_qs)
+    explicit SavingProcess(const DataFolder& folder, QStringList wrapper = {})
     {
-        QFile::remove(m_trace);
-        auto environment = folder.environment();
-        environment.insert(u"LD_PRELOAD"_qs, QStringLiteral(FAULT_LIBRARY));
-        environment.insert(QLatin1String(FaultSettings::folder), folder.path());
-        environment.insert(QLatin1String(FaultSettings::plan), plan);
-        environment.insert(QLatin1String(FaultSettings::trace), m_trace);
-        m_process.setProcessEnvironment(environment);
+        m_process.setProcessEnvironment(folder.environment());
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        wrapper.append({QStringLiteral(SAVING_PROGRAM), site});
+        wrapper.append(QStringLiteral(SAVING_PROGRAM));
         const QString command = wrapper.takeFirst();
         m_process.start(command, wrapper);
-        m_belief = nextBelief();
+        m_seen = nextAnswer();
     }
 
     ~SavingProcess()
@@ -48,15 +36,14 @@ public:
     {
         if (isAlive()) {
             m_process.write(action.toUtf8() + '\n');
-            m_belief = nextBelief();
+            m_seen = nextAnswer();
         }
     }
 
     /// Whether the program gave an answer to what it was last told.
-    bool isAlive() const { return m_belief.has_value(); }
-    /// What the program says of itself.
-    QString belief(const QString& name) const { return m_belief->value(name).toString(); }
-    QJsonValue beliefs(const QString& name) const { return m_belief->value(name); }
+    bool isAlive() const { return m_seen.has_value(); }
+    /// What a reader sees in it, as ReaderActions names it.
+    QString seen(const QString& name) const { return m_seen->value(name).toString(); }
 
     qint64 id() const { return m_process.processId(); }
 
@@ -75,14 +62,8 @@ public:
         return m_process.exitStatus() == QProcess::CrashExit && m_process.exitCode() == SIGKILL;
     }
 
-    /// The names of the calls counted until now, in order; " !" follows the faulty ones.
-    QStringList calls() const
-    {
-        return QString::fromLatin1(contentOf(m_trace)).split(u'\n', Qt::SkipEmptyParts);
-    }
-
 private:
-    std::optional<QJsonObject> nextBelief()
+    std::optional<QJsonObject> nextAnswer()
     {
         constexpr int patienceMilliseconds = 30'000;
         while (!m_process.canReadLine()) {
@@ -93,7 +74,6 @@ private:
         return QJsonDocument::fromJson(m_process.readLine()).object();
     }
 
-    QString m_trace;
     QProcess m_process;
-    std::optional<QJsonObject> m_belief;
+    std::optional<QJsonObject> m_seen;
 };

@@ -212,6 +212,25 @@ private Q_SLOTS:
         QCOMPARE(stored(), u"abc"_qs);
     }
 
+    void theNoteStaysAsItIsWhileSomethingElseStores()
+    {
+        openKept();
+        window().type("ac");
+        window().pressKey(Qt::Key_Left);
+        const auto* const editor = note();
+        m_visit->sample().make()->toggleKeep(u"b"_qs);
+        m_visit->sample().make()->updateNote(u"a"_qs, u"elsewhere"_qs);
+
+        model().catchUpWithStorage();
+        window().settle();
+
+        QCOMPARE(model().keptSignals().size(), 2);
+        QCOMPARE(note(), editor);
+        QVERIFY(note()->hasActiveFocus());
+        window().type("b");
+        QCOMPARE(stored(), u"abc"_qs);
+    }
+
     void theNoteOfALongThreadStaysWhereItIsLeft()
     {
         auto& signal = m_visit->sample().signals.first();

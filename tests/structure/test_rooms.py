@@ -16,7 +16,7 @@ REPOSITORY = Path(__file__).resolve().parents[2]
 CORE = "CorvaniteInformationCore"
 CORE_TESTS = REPOSITORY / "tests/core"
 
-SCREENS = ("Archive", "HandIn", "Kept", "Sources", "Thread", "Today", "Weekly")
+SCREENS = ("Archive", "HandIn", "Kept", "Keys", "Sources", "Thread", "Today", "Weekly")
 
 # What each room links. Qt Qml comes with every room that has QML types.
 ROOMS = {

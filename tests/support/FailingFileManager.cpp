@@ -21,3 +21,17 @@ std::expected<void, FileError> FailingFileManager::replaceFile(const QString& pa
 {
     return writeFailure ? std::unexpected(*writeFailure) : m_files.replaceFile(path, bytes);
 }
+
+std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+FailingFileManager::writtenAt(const QString& path) const
+{
+    return m_files.writtenAt(path);
+}
+
+std::expected<void, FileError>
+FailingFileManager::replaceReadFile(const QString& path, const std::optional<QByteArray>& read,
+                                    const QByteArray& bytes) const
+{
+    return writeFailure ? std::unexpected(*writeFailure)
+                        : m_files.replaceReadFile(path, read, bytes);
+}

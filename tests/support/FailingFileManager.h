@@ -15,9 +15,14 @@ public:
     std::optional<QString> applicationSupportDirectory() const override;
     std::expected<std::optional<QByteArray>, FileError>
     readFile(const QString& path) const override;
+    std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+    writtenAt(const QString& path) const override;
     std::expected<void, FileError> createDirectory(const QString& path) const override;
     std::expected<void, FileError> replaceFile(const QString& path,
                                                const QByteArray& bytes) const override;
+    std::expected<void, FileError> replaceReadFile(const QString& path,
+                                                   const std::optional<QByteArray>& read,
+                                                   const QByteArray& bytes) const override;
 
 private:
     const InformationFileManager& m_files;

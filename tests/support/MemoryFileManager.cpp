@@ -1,5 +1,7 @@
 #include "MemoryFileManager.h"
 
+#include <utility>
+
 std::expected<std::optional<QByteArray>, FileError>
 MemoryFileManager::readFile(const QString& path) const
 {
@@ -30,4 +32,28 @@ std::expected<void, FileError> MemoryFileManager::replaceFile(const QString& pat
     }
     files.insert(path, bytes);
     return {};
+}
+
+std::expected<std::optional<std::chrono::sys_seconds>, FileError>
+MemoryFileManager::writtenAt(const QString& path) const
+{
+    const auto time = times.constFind(path);
+    return time == times.cend() ? std::nullopt : std::optional(*time);
+}
+
+std::expected<void, FileError>
+MemoryFileManager::replaceReadFile(const QString& path, const std::optional<QByteArray>& read,
+                                   const QByteArray& bytes) const
+{
+    if (const auto change = std::exchange(beforeReplacing, nullptr)) {
+        change();
+    }
+    const auto present = readFile(path);
+    if (!present) {
+        return std::unexpected(present.error());
+    }
+    if (*present != read) {
+        return std::unexpected(FileError{FileError::Reason::ChangedMeanwhile});
+    }
+    return replaceFile(path, bytes);
 }

@@ -11,6 +11,8 @@ bool actAsOrdinaryUser()
     if (::syscall(SYS_capget, &header, data) != 0) {
         return false;
     }
-    data[0].effective &= ~((1u << CAP_DAC_OVERRIDE) | (1u << CAP_DAC_READ_SEARCH));
+    const __u32 overriding = (1u << CAP_DAC_OVERRIDE) | (1u << CAP_DAC_READ_SEARCH);
+    data[0].effective &= ~overriding;
+    data[0].permitted &= ~overriding;
     return ::syscall(SYS_capset, &header, data) == 0;
 }

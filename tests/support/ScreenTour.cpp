@@ -193,6 +193,12 @@ QList<Stop> stops()
          .act = keep(u"a"_qs),
          .open = handIn(u"https://origin.example/a"_qs)},
         {.name = u"hand-in, taken"_qs, .open = handIn(u"A sentence"_qs)},
+        {.name = u"keys"_qs,
+         .open =
+             [](const WorkbenchWindow& window) {
+                 window.pressKey(Qt::Key_F1);
+                 window.awaited(u"键盘操作"_qs, QAccessible::Dialog);
+             }},
         {.name = u"kept for its changes"_qs, .act = keep(u"a"_qs)},
         {.name = u"kept for a baseline"_qs, .act = keep(u"b"_qs)},
         {.name = u"kept, not connected"_qs, .act = keep(u"c"_qs)},

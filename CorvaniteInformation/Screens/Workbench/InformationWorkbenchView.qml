@@ -175,6 +175,10 @@ Window {
     }
 
     SheetLoader {
+        id: keysSheet
+    }
+
+    SheetLoader {
         id: errorAlert
     }
 
@@ -215,6 +219,11 @@ Window {
     Shortcut {
         sequence: "Ctrl+N"
         onActivated: window.openHandIn(true)
+    }
+
+    Shortcut {
+        sequences: ["F1", "Ctrl+/"]
+        onActivated: keysSheet.show(Qt.resolvedUrl("../Keys/KeysView.qml"), { home: surfaces, blocked: window.blocked })
     }
 
     Shortcut {

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "KeysPage.h"
+#include "Subject.h"
+
+#include <QFile>
+#include <QTest>
+
+class KeysPageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theDocumentHasTheSameTable()
+    {
+        QFile document(QStringLiteral(KEYBOARD_DOCUMENT));
+        QVERIFY(document.open(QIODevice::ReadOnly));
+        const auto text = QString::fromUtf8(document.readAll());
+
+        QString table = u"|---|---|\n"_qs;
+        for (const auto& row : KeysPage::rows()) {
+            table += u"| %1 | %2 |\n"_qs.arg(row.label, row.text);
+        }
+        QVERIFY(text.endsWith(table));
+    }
+};
+
+TEST_SUBJECT(KeysPageTest)
+#include "KeysPageTest.moc"
