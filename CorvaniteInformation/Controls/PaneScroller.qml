@@ -73,6 +73,9 @@ Item {
     }
 
     function turn(key: int, modifiers: int): bool {
+        // The desktop's own keys, such as Alt+Space.
+        if (modifiers & (Qt.AltModifier | Qt.ControlModifier | Qt.MetaModifier))
+            return false;
         switch (key) {
         case Qt.Key_PageDown:
             scrollTo(pane.contentY + leap);

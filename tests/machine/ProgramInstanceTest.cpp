@@ -96,11 +96,12 @@ private Q_SLOTS:
     {
         ProgramInstance first(m_directory, m_fileManager);
         remove(u"Corvanite"_qs);
-        std::optional other(InstanceLock::take(m_directory, m_fileManager));
-        QVERIFY(*other);
+        {
+            const auto other = InstanceLock::take(m_directory, m_fileManager);
+            QVERIFY(other);
+            QCOMPARE(first.hold().error().reason, Reason::InUse);
+        }
 
-        QCOMPARE(first.hold().error().reason, Reason::InUse);
-        other.reset();
         QVERIFY(first.hold());
         QCOMPARE(failureOfAnotherLock(), Reason::InUse);
     }
