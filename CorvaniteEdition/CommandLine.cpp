@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "CommandLine.h"
 
 #include <QLatin1StringView>

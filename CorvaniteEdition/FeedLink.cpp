@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "FeedLink.h"
 
 QString FeedLink::resolved(const QString& link, const QUrl& base)

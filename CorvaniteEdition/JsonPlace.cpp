@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "JsonPlace.h"
 
 QString JsonPlace::member(const QString& object, QAnyStringView key)

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #pragma once
 
 /// Whether a character has a numeric value: the digits and numbers of all scripts, and the

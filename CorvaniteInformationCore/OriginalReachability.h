@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #pragma once
 
 /// How steadily the site of an original can be reached from mainland China, best first.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // What the data costs, each subject beside the least that such work can cost:
 //   data_benchmark FOLDER
 // FOLDER holds what full_pack.py writes. A subject is followed by its limit, "<subject> limit",

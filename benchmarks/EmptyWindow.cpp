@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The least that a Qt Quick program can be: one empty window, drawn by the software renderer.
 
 #include <QGuiApplication>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Presses keys and turns the wheel, and tells when the screen changes: key_probe PID
 // Commands come line by line, each is answered by one line:
 //   press KEY...       the seconds until the screen changes, or nothing when it does not; the last

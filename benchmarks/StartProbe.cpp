@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Starts a command and tells when its content stands on the screen:
 //   start_probe PICTURE COMMAND...
 // PICTURE is the screen as it is once the command has come to rest, four bytes a pixel. Prints,

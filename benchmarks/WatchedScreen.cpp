@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "WatchedScreen.h"
 
 #include <X11/extensions/Xdamage.h>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """What the data costs: runs data_benchmark and sets each subject beside its limit."""
 
 import json

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """A desktop of its own to measure on, as a reader has it who uses no screen reader."""
 
 import os

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """A reader's machine after years: the largest pack there can be, and 3000 kept in the workspace.
 
 Made from the compiled-in edition, its texts put together anew; every call makes the same bytes.

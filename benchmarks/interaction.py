@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """From a key to the changed frame, and the frames while a surface scrolls, through the real window.
 
 A first start, with a screen reader's help, finds out how often the Tab key leads to what. Those

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """Measures start, data and interaction of the release build, and prints one table."""
 
 import argparse

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """From the start of a program to its content, and what it uses until then and at rest.
 
 All subjects start one after the other in every round, so that what disturbs the machine disturbs

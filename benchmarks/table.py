@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """The one table that everything measured goes into."""
 
 import unicodedata

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # What nearly every file of a large target includes, parsed once for all of them:
 # precompile_headers(<target> [<header>...]). With a few files it costs more than it spares.
 function(precompile_headers target)

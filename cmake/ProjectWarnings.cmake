@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # The flags of every target of our own: warnings are errors, Qt's keyword macros are off.
 add_library(project_warnings INTERFACE)
 target_compile_definitions(project_warnings INTERFACE

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # One room of the house: the folder that calls this as one static library. With QML types it is the
 # QML module of the folder's path too. What it links is all that it may know.
 #

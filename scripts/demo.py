@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """Shows a sync, a newer build and a thread that goes on, all on this machine.
 
 Lays out the compiled-in edition one day further, with two changed cards, as a site on loopback;

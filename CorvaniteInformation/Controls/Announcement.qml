@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQuick
 
 /// What a screen reader says by itself, wherever the focus is: its text, whenever that comes or changes.

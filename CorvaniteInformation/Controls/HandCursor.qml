@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQuick
 
 /// Shows the pointer as a hand over what a press opens.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQml
 
 /// Whether a text field got the focus from the keyboard. A field tells no more than why it has the

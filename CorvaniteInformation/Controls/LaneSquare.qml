@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQuick
 
 /// The small square in a lane's colour beside the lane's name.

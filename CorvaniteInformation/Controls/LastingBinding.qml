@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQml
 
 /// Binds a property while a condition holds. After that the property stays as it was, for what still

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQuick
 
 /// Makes a Sheet when it is asked for, and drops it when it has closed. The type is not named: it

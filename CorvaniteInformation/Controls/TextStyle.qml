@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQuick
 
 /// One step of the type scale: a font and the fixed height of its lines in pixels.

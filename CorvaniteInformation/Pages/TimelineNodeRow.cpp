@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "TimelineNodeRow.h"
 
 QList<TimelineNodeRow> TimelineNodeRow::timelineOf(const InformationSignal& signal)

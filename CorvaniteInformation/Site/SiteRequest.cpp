@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "SiteRequest.h"
 
 QNetworkRequest siteRequest(const QUrl& url, std::chrono::milliseconds silence)

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "KeptThreads.h"
 #include "PlainRules.h"
 #include "SampleSignal.h"

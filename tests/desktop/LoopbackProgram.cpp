@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The program over a site of the test's own: LOOPBACK_SITE_ORIGIN names it.
 
 #include "Program.h"

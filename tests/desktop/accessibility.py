@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """What a screen reader sees of a program, by plain calls on the accessibility bus (AT-SPI)."""
 
 from collections.abc import Iterator

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """Stands in for the desktop's appearance portal: python3 appearance_portal.py dark|light
 
 Answers on the session bus that it is started with, until it is stopped.

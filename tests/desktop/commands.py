@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """Short helper commands, always with an end."""
 
 import subprocess

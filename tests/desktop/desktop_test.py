@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """What the tests through the real window share.
 
 CORVANITE_PROGRAM names the program; CORVANITE_FAILURES the folder for what a failed test leaves.

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """Starts the program on a virtual screen and writes its first screen: first_screen.py PROGRAM PNG"""
 
 import sys

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """A product site on loopback that a test fills and reads the log of."""
 
 import threading

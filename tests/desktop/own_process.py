@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """A process that this one started and that never outlives it."""
 
 import os

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """Waiting for a condition, always with an end."""
 
 import time

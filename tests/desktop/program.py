@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """A started program: its process, its window and what a screen reader sees of it."""
 
 from collections.abc import Callable, Mapping

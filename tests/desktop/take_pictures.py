@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """The picture tour: takes a picture of every screen and state of the program as the preset "ci" has
 built it, light and dark.
 

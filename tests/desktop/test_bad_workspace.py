@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """A stored workspace that cannot be read is told, and never written over."""
 
 import json

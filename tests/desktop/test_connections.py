@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """What a whole session leaves on the network and on the disk."""
 
 import re

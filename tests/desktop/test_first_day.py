@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """The reader's first day: read the page, keep, undo, keep again, write a note, lose the power."""
 
 import unittest

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """A stored pack that means no good is drawn like any other: no file and no connection more."""
 
 import json

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """A visit to every surface and both sheets with the keyboard alone."""
 
 import unittest

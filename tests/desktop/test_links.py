@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """A link opens the address that the pack gives, in the reader's browser."""
 
 import unittest

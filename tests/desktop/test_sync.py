@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """The reader fetches newer content from the site and has it at the next start without a network."""
 
 import json

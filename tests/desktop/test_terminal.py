@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """What the program says on the terminal, and how a second start meets the first."""
 
 import fcntl

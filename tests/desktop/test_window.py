@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """The window under the reader's hands: its first size, moving, resizing, also below a sheet."""
 
 import unittest

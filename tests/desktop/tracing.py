@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """A program under a trace of its system calls."""
 
 import re

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """A desktop of its own for one test: screen, buses, window manager, home and nothing else."""
 
 import os

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 """The program corvanite-edition, called as a curator calls it. Its path is the first argument."""
 
 import json

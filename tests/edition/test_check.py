@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """What `corvanite-edition check` finds, each with its place. Argument: the program."""
 
 import tempfile

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """What `./run --demo` shows. Argument: the program corvanite-edition."""
 
 import json

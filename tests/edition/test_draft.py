@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """`corvanite-edition draft`, and how the program is called. Argument: the program."""
 
 import json

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """An edition from `next` to `site`. Argument: the program."""
 
 import json

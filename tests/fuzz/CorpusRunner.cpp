@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Gives a target every file of the folders that are named, as libFuzzer would.
 
 #include "FuzzTarget.h"

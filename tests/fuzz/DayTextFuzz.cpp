@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // A day text a line.
 
 #include "ArchiveDateLabels.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "FileWatch.h"
 #include "FileTree.h"
 #include "LocalFileManager.h"

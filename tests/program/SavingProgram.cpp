@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The program without its window, for tests in which the kernel fails its calls. It does the action
 // that each line of its input names and answers with one line of what is seen then.
 

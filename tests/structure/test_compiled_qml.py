@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """QML that names a type which its compiler does not see is interpreted without a word. The number
 of functions that are compiled may therefore not fall.
 

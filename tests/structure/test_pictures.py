@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """The pictures of the screens are of stops of the tour that the tests go, and docs/pictures keeps each
 of them.
 """

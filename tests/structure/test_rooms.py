@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """A folder knows what it links, and nothing else: the table of rooms, held against what each links,
 includes and imports.
 

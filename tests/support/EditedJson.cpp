@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "EditedJson.h"
 
 QJsonValue editedJson(const QJsonValue& json, const QStringList& path, const QJsonValue& value)

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #pragma once
 
 /// Lets file permissions hold for this process also where root runs it, as build machines do.

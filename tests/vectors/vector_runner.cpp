@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Runs example cases: JSON lines of {"fn", "in", "out", "accept"?}, and a folder of whole
 // documents. Ends with 0 when all passed and at least one ran.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import CorvaniteInformation.Controls
 
 /// Keeps a card, the primary action, or shows that it is kept and takes that back. One button in

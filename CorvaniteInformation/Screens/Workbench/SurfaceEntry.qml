@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQml
 
 /// One surface of the workbench, as the switcher offers it.

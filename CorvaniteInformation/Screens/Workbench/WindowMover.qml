@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQuick
 
 /// A part of a window without a native title bar by which it is moved; a double click maximises or
