@@ -213,7 +213,7 @@ bool InformationModel::addSource(const QString& input)
     if (InformationIntake::contains(*intake, workspace().customSources)) {
         clearUndo();
         setSurface(Surface::Kept);
-        m_receipt = u"这项内容已经在已收下里，没有重复添加。"_qs;
+        giveReceipt(u"这项内容已经在已收下里，没有重复添加。"_qs);
         return true;
     }
     if (workspace().customSources.size() >= InformationIntake::maximumCustomSources) {
@@ -255,7 +255,8 @@ void InformationModel::updateNote(const QString& signalId, const QString& note)
 void InformationModel::undoLastAction()
 {
     assertMainThread();
-    if (canUndo() && transact(m_journal.undo(), [this] { m_receipt = u"已撤销上一步操作。"_qs; })) {
+    if (canUndo() &&
+        transact(m_journal.undo(), [this] { giveReceipt(u"已撤销上一步操作。"_qs); })) {
         clearUndo();
     }
 }
@@ -369,11 +370,17 @@ bool InformationModel::transactUndoable(const QString& receipt,
                                         const WorkspaceJournal::Change& change)
 {
     clearUndo();
-    const bool stored = transact(change, [this, &receipt] { m_receipt = receipt; });
+    const bool stored = transact(change, [this, &receipt] { giveReceipt(receipt); });
     if (stored) {
         changeUndo([this] { m_journal.keepUndo(); });
     }
     return stored;
+}
+
+void InformationModel::giveReceipt(const QString& receipt)
+{
+    m_receipt = std::nullopt;
+    m_receipt = receipt;
 }
 
 void InformationModel::announceWorkspace()
@@ -409,7 +416,7 @@ bool InformationModel::keepMatch(const InformationSignal& signal)
     if (isKept(signal)) {
         clearUndo();
         setSurface(Surface::Kept);
-        m_receipt = u"“%1”已经在已收下里。"_qs.arg(signal.followTarget.label);
+        giveReceipt(u"“%1”已经在已收下里。"_qs.arg(signal.followTarget.label));
         return true;
     }
     if (!keep(signal)) {

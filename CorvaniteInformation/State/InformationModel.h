@@ -218,6 +218,8 @@ private:
     transact(const WorkspaceJournal::Change& change, const std::function<void()>& announce = [] {});
     /// The same with a receipt. Leaves no undo but the one of its success.
     bool transactUndoable(const QString& receipt, const WorkspaceJournal::Change& change);
+    /// Tells it anew where the same words stand there already.
+    void giveReceipt(const QString& receipt);
     void announceWorkspace();
     /// Lets the journal's undo slot change and announces that.
     void changeUndo(const std::function<void()>& change);

@@ -418,6 +418,9 @@ private Q_SLOTS:
         m_model->toggleKeep(u"a"_qs);
         m_window->settle();
         QCOMPARE(listener.announced(), QStringList(m_model->receiptText()));
+        m_model->toggleKeep(u"b"_qs);
+        m_window->settle();
+        QCOMPARE(listener.announced(), QStringList(m_model->receiptText()));
         m_model->undoLastAction();
         m_window->settle();
         QCOMPARE(listener.announced(), QStringList(m_model->receiptText()));
