@@ -66,7 +66,8 @@ class Tour:
         self._program.press_keys(*["Tab"] * 2)
 
     def today_seen(self) -> None:
-        self.thread()
+        self.today_by_keyboard()
+        self._program.press_keys("Return")
         self._program.wait_for("关闭", "push button")
         self._program.press_keys("Escape")
         self._program.wait_until_gone("关闭")
@@ -85,7 +86,8 @@ class Tour:
         self._press_first("打开脉络：")
 
     def thread_with_a_note(self) -> None:
-        self.thread()
+        self._program.press_keys("ctrl+2", "Home")
+        self._press_first("看变化")
         note = self._program.wait_for("自己的备注（可选）")
         note.set_text("周末拿一段旧访谈试试字幕，和现在用的比一比。")
 
