@@ -89,7 +89,7 @@ class Tour:
         self._program.press_keys("ctrl+2", "Home")
         self._press_first("看变化")
         note = self._program.wait_for("自己的备注（可选）")
-        note.set_text("周末拿一段旧访谈试试字幕，和现在用的比一比。")
+        note.set_text("周五先在分支上试，看看旧的写法还能不能装。")
 
     def hand_in(self) -> None:
         self._program.press_keys("ctrl+n")
@@ -238,7 +238,7 @@ SCREENS = [
     Screen("hand-in, not supported", Tour.hand_in_not_supported),
     Screen("keys", Tour.keys),
     Screen("kept", Tour.kept),
-    Screen("thread of a kept signal", Tour.thread_with_a_note),
+    Screen("thread of a kept signal", Tour.thread_with_a_note, then=Tour.end),
     Screen("kept, no match", Tour.kept_no_match),
     Screen("weekly", Tour.weekly),
     Screen("archive", Tour.archive),
