@@ -41,7 +41,7 @@ BEGIN_NO_ACTION = set(
     while
     """.split()
 )
-ASSERTS = ("assert", "q_assert")
+ASSERTS = ("assert", "q_assert", "q_unreachable")
 ACTS = {".", "->", "(", "::", "[", "=", "+=", "-=", "|=", "&="}
 OPENING, CLOSING = set("([{"), set(")]}")
 
@@ -90,8 +90,8 @@ def begins_statement(tokens: list[re.Match[str]], at: int) -> bool:
 
 def is_silent(tokens: list[re.Match[str]], begin: int) -> bool:
     words = [token[0] for token in tokens[begin : begin + 4]]
-    return words[0].lower().startswith(ASSERTS) or words[1:] in (
-        [".", "reserve", "("], ["->", "reserve", "("])
+    return words[0].lower().startswith(ASSERTS) or words == ["std", "::", "unreachable", "("] or (
+        words[1:] in ([".", "reserve", "("], ["->", "reserve", "("]))
 
 
 def stands_free(source: str, token: re.Match[str]) -> bool:

@@ -33,6 +33,7 @@ CASES = {
     "{ Q_EMIT told(); }": ["{ }"],
     "{ T a(b); std::T c(d); const auto e = f(); }": [],
     "{ assertMainThread(); Q_ASSERT(a == b); c.reserve(d + 1); }": [],
+    "{ std::unreachable(); Q_UNREACHABLE(); }": [],
     "T a{ipv4(b, c)};": [],
     "// a < b": [],
     "/* a < b */ #include <x>": [],
