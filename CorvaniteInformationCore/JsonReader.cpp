@@ -166,11 +166,11 @@ JsonReader::Object JsonReader::Object::nested(std::string_view key,
 
 QList<QString> JsonReader::Object::texts(std::string_view key, simdjson::dom::element element) const
 {
-    QList<QString> result;
     const auto elements = array(key, element);
     if (!elements) {
-        return result;
+        return {};
     }
+    QList<QString> result;
     result.reserve(static_cast<qsizetype>(elements->size()));
     for (const auto entry : *elements) {
         result.append(text(key, entry));

@@ -35,6 +35,19 @@ private Q_SLOTS:
 
         QCOMPARE(codePointLess(left, right), less);
     }
+
+    void theEdgesOfThePlanesStandInOrder()
+    {
+        const QStringList ascending{u"\uD7FF"_qs,     u"\uE000"_qs,    u"\uF7FF"_qs,
+                                    u"\uF800"_qs,     u"\uFFFF"_qs,    u"\U00010000"_qs,
+                                    u"\U0010FFFE"_qs, u"\U0010FFFF"_qs};
+        for (const QString& left : ascending) {
+            for (const QString& right : ascending) {
+                QCOMPARE(codePointLess(left, right),
+                         ascending.indexOf(left) < ascending.indexOf(right));
+            }
+        }
+    }
 };
 
 TEST_SUBJECT(CodePointOrderTest)

@@ -115,6 +115,7 @@ private Q_SLOTS:
             u"https://example.com/?%EE%80%80&%F0%9F%98%80"_qs);
         row(u"https://example.com/?中=1&a=2"_qs, u"https://example.com/?a=2&%E4%B8%AD=1"_qs);
         unchanged(u"https://example.com/?=x"_qs);
+        row(u"https://example.com/?1=1&=b&=a"_qs, u"https://example.com/?=a&=b&1=1"_qs);
         unchanged(u"https://example.com/??a=/b?c:@=!$'()*+,;~-._"_qs);
         unchanged(u"https://example.com/?a=1%262&a%3Db=x%20y"_qs);
         row(u"https://example.com/?a[]=[1]"_qs, u"https://example.com/?a%5B%5D=%5B1%5D"_qs);

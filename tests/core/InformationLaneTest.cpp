@@ -24,10 +24,30 @@ private Q_SLOTS:
         QVERIFY(!fromRawValue<InformationLane>(u""));
     }
 
+    void namesAndAccents_data()
+    {
+        QTest::addColumn<InformationLane>("lane");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<LaneAccent>("color");
+
+        using enum InformationLane;
+        const auto row = [](InformationLane lane, const QString& name, const LaneAccent& color) {
+            QTest::newRow(qPrintable(name)) << lane << name << color;
+        };
+        row(OpenSourceGrowth, u"开源增长"_qs, {0.49, 0.78, 0.61});
+        row(ProductRadar, u"产品雷达"_qs, {0.52, 0.72, 0.88});
+        row(Opportunity, u"赚钱机会"_qs, {0.91, 0.70, 0.37});
+        row(Workflow, u"工作流与方法"_qs, {0.85, 0.65, 0.78});
+        row(FounderStory, u"创业复盘"_qs, {0.88, 0.56, 0.59});
+        row(PlatformShift, u"平台变化"_qs, {0.68, 0.73, 0.80});
+    }
+
     void namesAndAccents()
     {
-        QCOMPARE(displayName(InformationLane::Workflow), u"工作流与方法"_qs);
-        QCOMPARE(accent(InformationLane::PlatformShift), (LaneAccent{0.68, 0.73, 0.80}));
+        QFETCH(const InformationLane, lane);
+
+        QTEST(displayName(lane), "name");
+        QTEST(accent(lane), "color");
     }
 };
 

@@ -53,6 +53,8 @@ private Q_SLOTS:
         QTest::newRow("ahead") << u"2025-01-02T03:04:05+08:00"_qs << 1735758245.0;
         QTest::newRow("behind") << u"2025-01-02T03:04:05-05:30"_qs << 1735806845.0;
         QTest::newRow("none") << u"2025-01-02T03:04:05+00:00"_qs << 1735787045.0;
+        QTest::newRow("farthest") << u"2025-01-02T03:04:05+23:59"_qs << 1735700705.0;
+        QTest::newRow("last moment of a day") << u"2025-01-02T23:59:60+00:00"_qs << 1735862400.0;
         QTest::newRow("fraction") << u"2025-01-02T03:04:05.123-01:00"_qs << 1735790645.123;
     }
 
@@ -101,7 +103,8 @@ private Q_SLOTS:
         QTest::newRow("signed year") << u"+025-01-02T03:04:05Z"_qs;
         QTest::newRow("five-digit year") << u"12025-01-02T03:04:05Z"_qs;
         QTest::newRow("slashes") << u"2025/01/02T03:04:05Z"_qs;
-        QTest::newRow("dashes in time") << u"2025-01-02T03-04-05Z"_qs;
+        QTest::newRow("dash after the hour") << u"2025-01-02T03-04:05Z"_qs;
+        QTest::newRow("dash after the minute") << u"2025-01-02T03:04-05Z"_qs;
         QTest::newRow("month 0") << u"2025-00-02T03:04:05Z"_qs;
         QTest::newRow("month 13") << u"2025-13-02T03:04:05Z"_qs;
         QTest::newRow("day 0") << u"2025-01-00T03:04:05Z"_qs;

@@ -31,6 +31,8 @@ private Q_SLOTS:
         row(u"http://127.0.0.1:8080/"_qs, "http://127.0.0.1:8080/");
         row(u"https://h.example/👩‍👧"_qs,
             "https://h.example/%F0%9F%91%A9%E2%80%8D%F0%9F%91%A7");
+        row(u"https://h.example/\u061B\u061D\u200D\u2029\u202F\u2065\u206A"_qs,
+            "https://h.example/%D8%9B%D8%9D%E2%80%8D%E2%80%A9%E2%80%AF%E2%81%A5%E2%81%AA");
     }
 
     void opened()
@@ -93,6 +95,10 @@ private Q_SLOTS:
                  u"\u202Ehttps://h.example/"_qs,
              }) {
             QTest::addRow("%d %s", ++number, qPrintable(text)) << text;
+        }
+        for (const QChar turning : u"\u061C\u200E\u200F\u202A\u202B\u202C\u202D\u202E"
+                                   "\u2066\u2067\u2068\u2069"_qs) {
+            QTest::addRow("U+%04X alone", turning.unicode()) << u"https://h.example/"_qs + turning;
         }
     }
 

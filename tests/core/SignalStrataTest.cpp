@@ -61,6 +61,28 @@ private Q_SLOTS:
         QCOMPARE(bands.first().opacity, 0.95);
     }
 
+    void everyPartOfThePatternHasItsBits_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QList<int>>("wanted");
+        QTest::addColumn<double>("baseOpacity");
+
+        QTest::newRow("4 bands") << u"a"_qs << QList{4, 3, 1, -2} << 0.34;
+        QTest::newRow("5 bands") << u"b"_qs << QList{5, 4, 1, 2} << 0.34;
+        QTest::newRow("6 bands") << u"c"_qs << QList{6, 0, 4, 1} << 0.34;
+        QTest::newRow("7 bands") << u"信息"_qs << QList{7, 6, 2, 3} << 0.32;
+    }
+
+    void everyPartOfThePatternHasItsBits()
+    {
+        QFETCH(const QString, id);
+        QFETCH(const double, baseOpacity);
+        const SignalStrata::Spec spec = SignalStrata::spec(id);
+
+        QTEST((QList{spec.bandCount, spec.accentBand, spec.breakBand, spec.shift}), "wanted");
+        QVERIFY(isClose(spec.baseOpacity, baseOpacity));
+    }
+
     void bandsFillTheSquareFromTheBottom()
     {
         for (int number = 0; number < 500; ++number) {

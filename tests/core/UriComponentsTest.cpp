@@ -45,6 +45,10 @@ private Q_SLOTS:
         row(u"//h/x"_qs, none, u"h"_qs, u"/x"_qs, none, none);
         row(u"urn:isbn:1"_qs, u"urn"_qs, none, u"isbn:1"_qs, none, none);
         row(u"view-source+x.1:y"_qs, u"view-source+x.1"_qs, none, u"y"_qs, none, none);
+        row(u"azAZ09:y"_qs, u"azAZ09"_qs, none, u"y"_qs, none, none);
+        row(u"z:y"_qs, u"z"_qs, none, u"y"_qs, none, none);
+        row(u"A:y"_qs, u"A"_qs, none, u"y"_qs, none, none);
+        row(u"Z:y"_qs, u"Z"_qs, none, u"y"_qs, none, none);
         // No scheme.
         row(u"3:1"_qs, none, none, u"3:1"_qs, none, none);
         row(u"10.0.0.1:80"_qs, none, none, u"10.0.0.1:80"_qs, none, none);

@@ -150,6 +150,16 @@ private Q_SLOTS:
         QCOMPARE(page->day().nextText, QString());
     }
 
+    void followsASync()
+    {
+        ShownPage<ArchivePage> page(threeDays());
+
+        page.sync({u"a"_qs}, {u"2026-09-03"_qs});
+
+        QCOMPARE(page->summary(), u"1 天记录"_qs);
+        QCOMPARE(page->days()->rows().first().date, u"2026-09-03"_qs);
+    }
+
     void theFirstOfRepeatedDatesIsShown()
     {
         auto sample = threeDays();

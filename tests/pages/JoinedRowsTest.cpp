@@ -92,12 +92,17 @@ private Q_SLOTS:
     void aListComesAndGoesAsRows()
     {
         const QSignalSpy resets(&m_joined, &JoinedRows::modelReset);
+        const QSignalSpy inserted(&m_joined, &JoinedRows::rowsInserted);
+        const QSignalSpy removed(&m_joined, &JoinedRows::rowsRemoved);
         m_joined.setSecond(nullptr);
         QCOMPARE(textOf(m_joined), u"abc"_qs);
         m_second.setRows({});
         m_joined.setSecond(&m_second);
         m_second.setRows(letters(u"w"_qs));
         QCOMPARE(textOf(m_joined), u"abcw"_qs);
+        QCOMPARE(inserted.size(), 1);
+        m_joined.setSecond(nullptr);
+        QCOMPARE(removed.size(), 2);
         QVERIFY(resets.isEmpty());
     }
 

@@ -104,6 +104,18 @@ private Q_SLOTS:
         QCOMPARE(reset.size(), 0);
     }
 
+    void followsASync()
+    {
+        ShownPage<KeptPage> page;
+        page.model->toggleKeep(u"a"_qs);
+        const auto before = page->rows()->rows();
+
+        page.sync({u"a"_qs});
+
+        QVERIFY(page->rows()->rows() != before);
+        QCOMPARE(page->rows()->rows(), QList{KeptRow::from(page.model->signals().first())});
+    }
+
     void followsAnotherModel()
     {
         SampleModel sample;

@@ -47,6 +47,7 @@ private Q_SLOTS:
 
         QTest::newRow("in a word") << u"浏览器 K-Meleon 复测"_qs << u"浏览器 K\u2011Meleon 复测"_qs;
         QTest::newRow("several") << u"end-to-end"_qs << u"end\u2011to\u2011end"_qs;
+        QTest::newRow("of two letters") << u"X-Y"_qs << u"X\u2011Y"_qs;
         QTest::newRow("beside a digit") << u"GPT-4"_qs << u"GPT-4"_qs;
         QTest::newRow("beside Chinese") << u"中-a"_qs << u"中-a"_qs;
         QTest::newRow("at the ends") << u"-a-"_qs << u"-a-"_qs;

@@ -205,6 +205,18 @@ private Q_SLOTS:
         QVERIFY(!page->kept());
     }
 
+    void followsASync()
+    {
+        ShownPage<ThreadPage> page;
+        page->setSignalId(u"a"_qs);
+        const auto before = page->rows()->rows();
+
+        page.sync({u"a"_qs});
+
+        QVERIFY(page->rows()->rows() != before);
+        QCOMPARE(page->rows()->rows(), ThreadRow::columnOf(page.model->signals().first()));
+    }
+
     void anUnknownSignalLeavesTheThreadAsItWas()
     {
         ShownPage<ThreadPage> page;

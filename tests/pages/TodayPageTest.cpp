@@ -293,6 +293,16 @@ private Q_SLOTS:
         QCOMPARE(page->railEntries()->rows().at(2).rail.badge, u"新"_qs);
     }
 
+    void followsASync()
+    {
+        ShownPage<TodayPage> page;
+
+        page.sync({u"c"_qs});
+
+        QCOMPARE(wordsOf(*page->entries()), words("intro c"));
+        QCOMPARE(wordsOf(*page->railEntries()), words("rail 01c"));
+    }
+
     void agesOnlyWhenAsked()
     {
         SampleModel sample;

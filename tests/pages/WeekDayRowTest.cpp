@@ -48,10 +48,12 @@ private Q_SLOTS:
         QCOMPARE(day.linkName, u"查看8月24日 星期一的完整精选"_qs);
 
         QCOMPARE(day.entries.size(), 2);
+        QCOMPARE(day.entries[0].number, u"01"_qs);
         QCOMPARE(day.entries[0].title, u"Title of tool"_qs);
         QVERIFY(day.entries[0].resolved);
         QCOMPARE(day.entries[0].laneColor, laneColor(InformationLane::Workflow));
         QCOMPARE(day.entries[0].laneName, u"工作流与方法"_qs);
+        QCOMPARE(day.entries[1].number, u"02"_qs);
         QCOMPARE(day.entries[1].title, u"已归档条目（gone）"_qs);
         QVERIFY(!day.entries[1].resolved);
         QCOMPARE(day.entries[1].laneName, QString());

@@ -38,6 +38,7 @@ private Q_SLOTS:
     {
         const auto row = WeekHeadRow::from(sampleWeek(), sampleIndex(), std::nullopt);
 
+        QCOMPARE(row.weekId, u"2026-W35"_qs);
         QCOMPARE(row.range, u"8月24日–8月30日"_qs);
         QCOMPARE(row.summary, u"2 天 · 5 条焦点 · 覆盖 2 条泳道"_qs);
     }

@@ -87,6 +87,15 @@ private Q_SLOTS:
         QCOMPARE(rows[3].week.summary, u"1 天 · 2 条焦点 · 覆盖 1 条泳道"_qs);
     }
 
+    void followsASync()
+    {
+        ShownPage<WeeklyPage> page(twoWeeks());
+
+        page.sync({u"a"_qs}, {u"2026-09-03"_qs});
+
+        QCOMPARE(wordsOf(*page), QStringList({u"8月31日–9月6日"_qs, u"2026-09-03"_qs}));
+    }
+
     void theWeekRunsUntilMidnightInBeijing()
     {
         ShownPage<WeeklyPage> page(twoWeeks());

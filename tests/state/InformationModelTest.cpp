@@ -157,6 +157,16 @@ private Q_SLOTS:
         QVERIFY(!model->selectedArchiveDay());
     }
 
+    void onlyAKnownThreadOpens()
+    {
+        const auto model = m_sample.make();
+        model->openThread(u"gone"_qs);
+        QVERIFY(!model->openThread());
+
+        model->openThread(u"old"_qs);
+        QCOMPARE(model->openThread(), u"old"_qs);
+    }
+
     void derivedLists()
     {
         const auto model = m_sample.make();
@@ -165,6 +175,43 @@ private Q_SLOTS:
         QCOMPARE(model->weeklyWeeks().size(), 1);
         QCOMPARE(model->signalById(u"old"_qs), m_sample.retiredSignals[0]);
         QVERIFY(!model->signalById(u"gone"_qs));
+    }
+
+    void tellsWhatAnActionDoesInOrder_data()
+    {
+        QTest::addColumn<bool>("fails");
+        QTest::addColumn<QStringList>("told");
+
+        QTest::newRow("stored") << false
+                                << QStringList{u"workspace"_qs, u"receipt"_qs, u"storing"_qs,
+                                               u"undo"_qs};
+        QTest::newRow("not stored")
+            << true << QStringList{u"workspace"_qs, u"receipt"_qs,    u"storing"_qs,
+                                   u"workspace"_qs, u"no receipt"_qs, u"error"_qs};
+    }
+
+    void tellsWhatAnActionDoesInOrder()
+    {
+        QFETCH(const bool, fails);
+        const auto model = m_sample.make();
+        QStringList told;
+        const auto tell = [&told](const QString& what) {
+            return [&told, what] { told.append(what); };
+        };
+        connect(model.get(), &InformationModel::workspaceChanged, this, tell(u"workspace"_qs));
+        connect(model.get(), &InformationModel::receiptChanged, this,
+                [&] { told.append(model->receipt() ? u"receipt"_qs : u"no receipt"_qs); });
+        connect(model.get(), &InformationModel::canUndoChanged, this, tell(u"undo"_qs));
+        connect(model.get(), &InformationModel::errorMessageChanged, this, tell(u"error"_qs));
+        m_sample.files.beforeReplacing = tell(u"storing"_qs);
+        if (fails) {
+            m_sample.files.writeFailures.insert(workspacePath,
+                                                FileError{FileError::Reason::NoSpace});
+        }
+
+        model->toggleKeep(u"a"_qs);
+
+        QTEST(told, "told");
     }
 
     void changeSignalsFollowTheAssignment()

@@ -24,7 +24,9 @@ private Q_SLOTS:
         QCOMPARE(model->surface(), InformationModel::Surface::Kept);
         QCOMPARE(model->receipt(), u"已收下；后续实质变化会续到同一条脉络。"_qs);
 
+        model->setSurface(InformationModel::Surface::Today);
         QVERIFY(model->addSource(u"https://target.example/c/"_qs));
+        QCOMPARE(model->surface(), InformationModel::Surface::Kept);
         QCOMPARE(model->receipt(), u"“Label of target:c”已经在已收下里。"_qs);
         QVERIFY(!model->canUndo());
     }
@@ -35,13 +37,16 @@ private Q_SLOTS:
         QVERIFY(model->addSource(u"  跟踪 本地\n模型 "_qs));
         QCOMPARE(model->workspace().customSources.size(), 1);
         QCOMPARE(model->workspace().customSources.first().input, u"跟踪 本地 模型"_qs);
+        QCOMPARE(model->surface(), InformationModel::Surface::Kept);
         QCOMPARE(model->receipt(),
                  u"已收下并安全保存在本机；这个来源尚未接入更新，不会冒充已经同步。"_qs);
         QVERIFY(model->canUndo());
         QCOMPARE(m_sample.stored(), model->workspace());
 
+        model->setSurface(InformationModel::Surface::Today);
         QVERIFY(model->addSource(u"跟踪 本地 模型"_qs));
         QCOMPARE(model->workspace().customSources.size(), 1);
+        QCOMPARE(model->surface(), InformationModel::Surface::Kept);
         QCOMPARE(model->receipt(), u"这项内容已经在已收下里，没有重复添加。"_qs);
         QVERIFY(!model->canUndo());
 
@@ -73,6 +78,15 @@ private Q_SLOTS:
         QCOMPARE(model->surface(), InformationModel::Surface::Today);
 
         model->dismissIntakeError();
+        QVERIFY(!model->intakeErrorMessage());
+    }
+
+    void aRefusalIsForgottenWithTheNextHandIn()
+    {
+        const auto model = m_sample.make();
+        QVERIFY(!model->addSource({}));
+
+        QVERIFY(model->addSource(u"一句话"_qs));
         QVERIFY(!model->intakeErrorMessage());
     }
 

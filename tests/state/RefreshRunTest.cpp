@@ -45,10 +45,12 @@ private Q_SLOTS:
         m_model->refreshPackFromSite();
         QCOMPARE(*m_model->packSyncNote(), failedNote);
 
+        const QSignalSpy note(m_model.get(), &InformationModel::packSyncNoteChanged);
         m_sample.site->heldPaths = {SiteClient::packPath};
         m_model->refreshPackFromSite();
         QVERIFY(!m_model->packSyncNote());
         QVERIFY(!m_model->packSyncFailed());
+        QCOMPARE(note.count(), 1);
 
         m_sample.site->release();
         QCOMPARE(*m_model->packSyncNote(), failedNote);

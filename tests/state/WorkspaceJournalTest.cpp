@@ -249,6 +249,20 @@ private Q_SLOTS:
         QCOMPARE(journal.workspace().following, QList{u"elsewhere"_qs});
     }
 
+    void appliesAChangeOnceWhereTheFileGoesRightBeforeItIsStored()
+    {
+        auto journal = this->journal();
+        journal.apply(follow);
+        QVERIFY(journal.store(now));
+        m_files.beforeReplacing = [this] { m_files.files.clear(); };
+
+        journal.apply([](InformationWorkspace& workspace) { workspace.following.append(u"b"_qs); });
+        QVERIFY(journal.store(now));
+
+        QCOMPARE(journal.workspace().following, (QList{u"a"_qs, u"b"_qs}));
+        QCOMPARE(this->journal().workspace(), journal.workspace());
+    }
+
     void takesNothingButTheChangeBackWhereWhatComesInDoesNotRead()
     {
         auto journal = this->journal();
