@@ -60,9 +60,11 @@ class ContentsTest(unittest.TestCase):
 
     def test_hardening(self):
         for program in PROGRAMS:
-            # Debian 12's own start files have no marks for control flow, so no program has.
-            self.assert_clean(
-                "hardening-check", "--nocfprotection", self.root / "usr/bin" / program)
+            # Debian 12's own start files have no marks for control flow, so no program has. And all
+            # that is copied goes to memory whose size is known at run time alone, where there is
+            # nothing to fortify.
+            self.assert_clean("hardening-check", "--nocfprotection", "--nofortify",
+                              self.root / "usr/bin" / program)
 
     def test_nothing_tells_where_it_was_built(self):
         for program in PROGRAMS:
