@@ -4,13 +4,13 @@
 
 #include "CodePointOrder.h"
 #include "DecimalNumber.h"
+#include "FirstCharacters.h"
 #include "Ipv6Literal.h"
 #include "LocalHostname.h"
 #include "UriComponents.h"
 
 #include <QRegularExpression>
 #include <QStringList>
-#include <QTextBoundaryFinder>
 #include <QUrl>
 
 #include <algorithm>
@@ -149,13 +149,7 @@ QString canonicalQuery(const QString& query)
 
 bool isTooLong(const QString& text)
 {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    for (qsizetype count = 0; count <= InformationIntake::maximumInputLength; ++count) {
-        if (finder.toNextBoundary() < 0) {
-            return false;
-        }
-    }
-    return true;
+    return firstCharacters(text, InformationIntake::maximumInputLength).size() < text.size();
 }
 
 std::expected<NormalizedInformationIntake, InformationIntakeFailure>

@@ -13,11 +13,11 @@ Item {
     visible: false
 
     Accessible.role: Accessible.Notification
-    Accessible.name: announcement.text
 
     // A notification is read out when it appears, and not when it changes.
     onTextChanged: {
         visible = false;
+        Accessible.name = text;
         visible = text !== "";
     }
 }

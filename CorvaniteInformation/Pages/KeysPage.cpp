@@ -15,7 +15,7 @@ QList<LabelledTextRow> KeysPage::rows()
             {u"Ctrl+R、F5"_qs, u"同步站点"_qs},
             {u"Ctrl+F"_qs, u"搜索已收下的内容"_qs},
             {u"Ctrl+Z"_qs, u"撤销上一步；在文字框里撤销输入"_qs},
-            {u"Esc"_qs, u"关闭最上面的提示、面板或回执；在搜索框里清空文字"_qs},
+            {u"Esc"_qs, u"关闭最上面的面板或回执；在搜索框里清空文字"_qs},
             {u"Alt+←"_qs, u"从往期的一天回到索引"_qs},
             {u"Tab、Shift+Tab"_qs, u"到下一处、回上一处"_qs},
             {u"←、→"_qs, u"在页面切换和栏目筛选里移动"_qs},

@@ -10,6 +10,7 @@
 #include "ProgramParts.h"
 #include "SchemePalette.h"
 #include "ScreenReaderStatus.h"
+#include "StemDarkening.h"
 #include "TerminationSignals.h"
 #include "WindowActivation.h"
 
@@ -88,6 +89,7 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     const QGuiApplication application(argc, argv);
     introduce(version);
     chooseTextRendering(application.devicePixelRatio());
+    StemDarkening::switchOff();
 
     AppearancePortal appearance(QDBusConnection::sessionBus());
     QObject::connect(&appearance, &AppearancePortal::colorSchemeChanged, [](auto colorScheme) {

@@ -2,6 +2,7 @@
 
 #include "ContentRefresh.h"
 
+#include "FirstCharacters.h"
 #include "InformationPackSync.h"
 
 #include <tuple>
@@ -17,7 +18,7 @@ constexpr qsizetype maximumRetiredBytes = 16 * 1024 * 1024;
 Outcome outcome(Outcome::Kind kind, const Snapshot& snapshot)
 {
     constexpr qsizetype dayLength = 10;
-    return {kind, snapshot.signals.size(), snapshot.asOf.left(dayLength)};
+    return {kind, snapshot.signals.size(), firstCharacters(snapshot.asOf, dayLength)};
 }
 
 std::optional<Snapshot> snapshotIn(const SiteClient::Answer& answer)

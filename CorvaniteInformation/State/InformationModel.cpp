@@ -7,6 +7,7 @@
 #include "InformationProjection.h"
 #include "InformationSignalIndex.h"
 #include "TodayFocus.h"
+#include "UpdateProbe.h"
 #include "WellFormedText.h"
 #include "WorkbenchTexts.h"
 
@@ -18,8 +19,6 @@
 #include <utility>
 
 namespace {
-
-constexpr qsizetype maximumVersionBytes = 256 * 1024;
 
 template <typename T, typename WorkOut>
 const T& cached(std::optional<T>& cache, WorkOut workOut)
@@ -33,10 +32,8 @@ const T& cached(std::optional<T>& cache, WorkOut workOut)
 } // namespace
 
 InformationModel::InformationModel(Collaborators collaborators, InformationContent content,
-                                   std::optional<InformationWorkspaceRepository> repository,
-                                   QObject* parent)
-    : QObject(parent),
-      m_collaborators(std::move(collaborators)),
+                                   std::optional<InformationWorkspaceRepository> repository)
+    : m_collaborators(std::move(collaborators)),
       m_content(std::move(content)),
       m_threads(signals()),
       m_journal(std::move(repository), m_collaborators.fileManager)
@@ -177,26 +174,6 @@ void InformationModel::markSeen(const InformationSignal& signal)
     }
 }
 
-void InformationModel::toggleKeep(const QString& signalId)
-{
-    withSignal(signalId, &InformationModel::toggleKeep);
-}
-
-void InformationModel::removeKept(const QString& signalId)
-{
-    withSignal(signalId, &InformationModel::removeKept);
-}
-
-void InformationModel::reduceSimilar(const QString& signalId)
-{
-    withSignal(signalId, &InformationModel::reduceSimilar);
-}
-
-void InformationModel::markSeen(const QString& signalId)
-{
-    withSignal(signalId, &InformationModel::markSeen);
-}
-
 bool InformationModel::addSource(const QString& input)
 {
     assertMainThread();
@@ -213,7 +190,7 @@ bool InformationModel::addSource(const QString& input)
     if (InformationIntake::contains(*intake, workspace().customSources)) {
         clearUndo();
         setSurface(Surface::Kept);
-        m_receipt = u"这项内容已经在已收下里，没有重复添加。"_qs;
+        giveReceipt(u"这项内容已经在已收下里，没有重复添加。"_qs);
         return true;
     }
     if (workspace().customSources.size() >= InformationIntake::maximumCustomSources) {
@@ -255,7 +232,8 @@ void InformationModel::updateNote(const QString& signalId, const QString& note)
 void InformationModel::undoLastAction()
 {
     assertMainThread();
-    if (canUndo() && transact(m_journal.undo(), [this] { m_receipt = u"已撤销上一步操作。"_qs; })) {
+    if (canUndo() &&
+        transact(m_journal.undo(), [this] { giveReceipt(u"已撤销上一步操作。"_qs); })) {
         clearUndo();
     }
 }
@@ -332,15 +310,10 @@ void InformationModel::probeAppUpdateOnce()
 QCoro::Task<> InformationModel::probeAppUpdate()
 {
     const QPointer<InformationModel> self(this);
-    const auto answer =
-        co_await m_collaborators.site.get(SiteClient::appVersionPath, maximumVersionBytes);
-    if (!self || !answer || !answer->isDocument()) {
-        co_return;
-    }
-    const auto notice = InformationUpdateNotice::parse(answer->body, m_collaborators.site.host());
-    if (notice &&
-        InformationUpdateNotice::isNewer(notice->version, m_collaborators.runningVersion)) {
-        m_availableUpdate = *notice;
+    const auto notice =
+        co_await UpdateProbe::run(m_collaborators.site, m_collaborators.runningVersion);
+    if (self && notice) {
+        m_availableUpdate = notice;
     }
 }
 
@@ -369,11 +342,17 @@ bool InformationModel::transactUndoable(const QString& receipt,
                                         const WorkspaceJournal::Change& change)
 {
     clearUndo();
-    const bool stored = transact(change, [this, &receipt] { m_receipt = receipt; });
+    const bool stored = transact(change, [this, &receipt] { giveReceipt(receipt); });
     if (stored) {
         changeUndo([this] { m_journal.keepUndo(); });
     }
     return stored;
+}
+
+void InformationModel::giveReceipt(const QString& receipt)
+{
+    m_receipt = std::nullopt;
+    m_receipt = receipt;
 }
 
 void InformationModel::announceWorkspace()
@@ -391,11 +370,6 @@ void InformationModel::changeUndo(const std::function<void()>& change)
     }
 }
 
-void InformationModel::clearUndo()
-{
-    changeUndo([this] { m_journal.clearUndo(); });
-}
-
 bool InformationModel::keep(const InformationSignal& signal)
 {
     return transactUndoable(WorkbenchTexts::keepReceipt(signal.followTarget.updateMode),
@@ -409,7 +383,7 @@ bool InformationModel::keepMatch(const InformationSignal& signal)
     if (isKept(signal)) {
         clearUndo();
         setSurface(Surface::Kept);
-        m_receipt = u"“%1”已经在已收下里。"_qs.arg(signal.followTarget.label);
+        giveReceipt(u"“%1”已经在已收下里。"_qs.arg(signal.followTarget.label));
         return true;
     }
     if (!keep(signal)) {
@@ -432,11 +406,11 @@ bool InformationModel::keepCustomSource(const QString& input)
     return true;
 }
 
-void InformationModel::withSignal(const QString& id,
-                                  void (InformationModel::*act)(const InformationSignal&))
+void InformationModel::act(void (InformationModel::*action)(const InformationSignal&),
+                           const QString& id)
 {
     if (const auto signal = signalById(id)) {
-        (this->*act)(*signal);
+        (this->*action)(*signal);
     }
 }
 

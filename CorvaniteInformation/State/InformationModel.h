@@ -69,8 +69,7 @@ public:
     /// Loads the workspace. A stored one that cannot be read is reported and never overwritten;
     /// once it can be, it is shown and the next action is saved.
     InformationModel(Collaborators collaborators, InformationContent content,
-                     std::optional<InformationWorkspaceRepository> repository,
-                     QObject* parent = nullptr);
+                     std::optional<InformationWorkspaceRepository> repository);
 
     // State
 
@@ -150,10 +149,10 @@ public:
     void reduceSimilar(const InformationSignal& signal);
     void markSeen(const InformationSignal& signal);
     /// The same for the live or retired signal with the id; an unknown id does nothing.
-    Q_INVOKABLE void toggleKeep(const QString& signalId);
-    Q_INVOKABLE void removeKept(const QString& signalId);
-    Q_INVOKABLE void reduceSimilar(const QString& signalId);
-    Q_INVOKABLE void markSeen(const QString& signalId);
+    Q_INVOKABLE void toggleKeep(const QString& id) { act(&InformationModel::toggleKeep, id); }
+    Q_INVOKABLE void removeKept(const QString& id) { act(&InformationModel::removeKept, id); }
+    Q_INVOKABLE void reduceSimilar(const QString& id) { act(&InformationModel::reduceSimilar, id); }
+    Q_INVOKABLE void markSeen(const QString& id) { act(&InformationModel::markSeen, id); }
 
     /// Whether the hand-in was taken; if not, `intakeErrorMessage` or `errorMessage` says why.
     Q_INVOKABLE bool addSource(const QString& input);
@@ -218,10 +217,15 @@ private:
     transact(const WorkspaceJournal::Change& change, const std::function<void()>& announce = [] {});
     /// The same with a receipt. Leaves no undo but the one of its success.
     bool transactUndoable(const QString& receipt, const WorkspaceJournal::Change& change);
+    /// Tells it anew where the same words stand there already.
+    void giveReceipt(const QString& receipt);
     void announceWorkspace();
     /// Lets the journal's undo slot change and announces that.
     void changeUndo(const std::function<void()>& change);
-    void clearUndo();
+    void clearUndo()
+    {
+        changeUndo([this] { m_journal.clearUndo(); });
+    }
     bool keep(const InformationSignal& signal);
     bool keepMatch(const InformationSignal& signal);
     bool keepCustomSource(const QString& input);
@@ -235,7 +239,7 @@ private:
         assertMainThread();
         property = value;
     }
-    void withSignal(const QString& id, void (InformationModel::*act)(const InformationSignal&));
+    void act(void (InformationModel::*action)(const InformationSignal&), const QString& id);
     void assertMainThread() const;
     std::chrono::sys_seconds wholeSecondsNow() const;
 

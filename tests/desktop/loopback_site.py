@@ -13,6 +13,7 @@ class Site:
     """Use it in a `with`. Answers with the documents given, by path; any other is not found."""
 
     def __init__(self, documents: dict[str, bytes]):
+        self.documents = dict(documents)
         self.requests: list[tuple[str, dict[str, str]]] = []
         """Path and headers of every request, in order."""
         self.request_lines: list[str] = []
@@ -31,7 +32,7 @@ class Site:
             def do_GET(self):
                 site.requests.append((self.path, dict(self.headers)))
                 site.may_answer.wait(PATIENCE)
-                document = documents.get(self.path)
+                document = site.documents.get(self.path)
                 with suppress(ConnectionError):
                     self.answer(document)
 

@@ -98,8 +98,8 @@ class Program:
         """Drags by the pointer from the point in the window, in steps as a hand does."""
         window, (x, y) = self.window(), self.position()
         self._xdotool("mousemove", "--window", window, *map(str, start), "mousedown", "1")
-        for step in range(1, 5):
-            goal = (x + start[0] + way[0] * step // 4, y + start[1] + way[1] * step // 4)
+        for step in (1, 5, 10, 20):
+            goal = (x + start[0] + way[0] * step // 20, y + start[1] + way[1] * step // 20)
             self._xdotool("mousemove", "--sync", *map(str, goal))
         self._xdotool("mouseup", "1")
 

@@ -12,6 +12,7 @@ import os
 import re
 from collections.abc import Callable
 from dataclasses import dataclass
+from datetime import UTC, datetime, timedelta
 from pathlib import Path
 
 from commands import answer_of
@@ -38,9 +39,10 @@ USUAL = (1120, 780)
 class Tour:
     """How the reader gets to each screen. Each goes on from what the one before left."""
 
-    def __init__(self, program: Program, world: World):
+    def __init__(self, program: Program, world: World, site: Site):
         self._program = program
         self._world = world
+        self._site = site
 
     def today(self) -> None:
         self._program.press_keys("ctrl+1", "Home")
@@ -55,6 +57,21 @@ class Tour:
         self._scroll_to("看变化")
         self._press_first("看变化")
 
+    def today_blocked(self) -> None:
+        self.today()
+        self._scroll_to("国内访问受限")
+
+    def today_by_keyboard(self) -> None:
+        self.today()
+        self._program.press_keys(*["Tab"] * 2)
+
+    def today_seen(self) -> None:
+        self.today_by_keyboard()
+        self._program.press_keys("Return")
+        self._program.wait_for("关闭", "push button")
+        self._program.press_keys("Escape")
+        self._program.wait_until_gone("关闭")
+
     def kept_for_its_changes(self) -> None:
         self.today()
         self._press_first("收下并持续更新：")
@@ -67,6 +84,12 @@ class Tour:
     def thread(self) -> None:
         self.today()
         self._press_first("打开脉络：")
+
+    def thread_with_a_note(self) -> None:
+        self._program.press_keys("ctrl+2", "Home")
+        self._press_first("看变化")
+        note = self._program.wait_for("自己的备注（可选）")
+        note.set_text("周五先在分支上试，看看旧的写法还能不能装。")
 
     def hand_in(self) -> None:
         self._program.press_keys("ctrl+n")
@@ -129,8 +152,22 @@ class Tour:
         folder.unlink()
         away.rename(folder)
 
+    def syncing(self) -> None:
+        """Needs a program that reads the site."""
+        self.today()
+        self._site.may_answer.clear()
+        self._program.press_keys("F5")
+        self._program.wait_for("同步中")
+
+    def running_week(self) -> None:
+        """Goes on from a sync that waits, and ends it with another."""
+        self._site.documents["/information-pack.json"] = edition_of_today()
+        self._site.may_answer.set()
+        self._program.wait_for_beginning("已同步")
+        self.weekly()
+
     def newer_build(self) -> None:
-        """Needs a program that reads a site which offers a newer build."""
+        """Needs a program that reads the site."""
         self._program.wait_for("获取更新")
         self._program.press_keys("F5")
         self._program.wait_for_beginning("已是最新")
@@ -152,7 +189,18 @@ class Tour:
         self._program.wait_for_beginning(beginning).press()
 
 
+def edition_of_today() -> bytes:
+    """The compiled-in edition, selected once more today."""
+    pack = json.loads(PACK.read_bytes())
+    now = datetime.now(UTC)
+    today = {**pack["selectionHistory"][-1], "date": f"{now + timedelta(hours=8):%Y-%m-%d}"}
+    pack |= {"asOf": f"{now:%Y-%m-%dT%H:%M:%S.000Z}"}
+    pack["selectionHistory"].append(today)
+    return json.dumps(pack).encode()
+
+
 NARROW = (760, 780)
+SMALLEST = (720, 560)
 
 
 @dataclass(frozen=True)
@@ -176,16 +224,21 @@ SCREENS = [
     Screen("today", Tour.today, NARROW, "narrow"),
     Screen("today", Tour.today, NARROW, "narrow-list", Tour.end),
     Screen("today", Tour.today, ROOMY, "wide"),
+    Screen("today", Tour.today, SMALLEST, "smallest"),
+    Screen("today", Tour.today_by_keyboard, view="ring"),
     Screen("kept, empty", Tour.kept_empty),
     Screen("kept for its changes", Tour.kept_for_its_changes),
     Screen("today, adjusted", Tour.today_adjusted),
     Screen("today, everything unfolded", Tour.today_unfolded),
     Screen("today, everything unfolded", Tour.today_change, view="change"),
+    Screen("today, everything unfolded", Tour.today_blocked, view="blocked"),
     Screen("thread", Tour.thread),
+    Screen("today", Tour.today_seen, view="seen"),
     Screen("hand-in", Tour.hand_in),
     Screen("hand-in, not supported", Tour.hand_in_not_supported),
     Screen("keys", Tour.keys),
     Screen("kept", Tour.kept),
+    Screen("thread of a kept signal", Tour.thread_with_a_note, then=Tour.end),
     Screen("kept, no match", Tour.kept_no_match),
     Screen("weekly", Tour.weekly),
     Screen("archive", Tour.archive),
@@ -197,7 +250,11 @@ SCREENS = [
     Screen("not saved", Tour.not_saved),
 ]
 
-SCREENS_WITH_SITE = [Screen("a newer build", Tour.newer_build)]
+SCREENS_WITH_SITE = [
+    Screen("a newer build", Tour.newer_build),
+    Screen("syncing", Tour.syncing),
+    Screen("weekly", Tour.running_week, view="running"),
+]
 
 
 @dataclass(frozen=True)
@@ -223,13 +280,13 @@ def take_pictures(folder: Path, schemes: list[str], sizes: list[tuple[int, int] 
         for size in sizes:
             look = Look(folder, scheme, size)
             with World(scheme) as world, Site(documents) as site:
-                show(world, world.start(PROGRAMS / "corvanite-information"), SCREENS, look)
+                program = world.start(PROGRAMS / "corvanite-information")
+                show(Tour(program, world, site), program, SCREENS, look)
                 loopback = world.start(PROGRAMS / "loopback_program", site=site.origin)
-                show(world, loopback, SCREENS_WITH_SITE, look)
+                show(Tour(loopback, world, site), loopback, SCREENS_WITH_SITE, look)
 
 
-def show(world: World, program: Program, screens: list[Screen], look: Look) -> None:
-    tour = Tour(program, world)
+def show(tour: Tour, program: Program, screens: list[Screen], look: Look) -> None:
     for screen in screens:
         program.resize(*ROOMY)
         program.press_keys("Escape", "Escape")

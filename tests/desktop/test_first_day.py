@@ -3,6 +3,7 @@
 """The reader's first day: read the page, keep, undo, keep again, write a note, lose the power."""
 
 import unittest
+from datetime import UTC, datetime
 
 from desktop_test import (
     EMPTY_WORKSPACE,
@@ -43,6 +44,7 @@ class FirstDayTest(DesktopTest):
             keep = program.wait_for_beginning(KEEP)
             title = keep.name.removeprefix(KEEP)
             signal = seed_signals_by_title()[title]
+            before = datetime.now(UTC).replace(microsecond=0)
 
             keep.press()
             program.wait_for(RECEIPT)
@@ -50,6 +52,8 @@ class FirstDayTest(DesktopTest):
             self.assertEqual([signal["id"]], list(kept["saved"]))
             self.assertEqual(signal["why"]["zh"], kept["saved"][signal["id"]]["saveReason"])
             self.assertEqual([signal["followTarget"]["id"]], kept["following"])
+            saved_at = datetime.fromisoformat(kept["saved"][signal["id"]]["savedAt"])
+            self.assertTrue(before <= saved_at <= datetime.now(UTC))
 
             program.wait_for("撤销", "push button").press()
             program.wait_for(UNDONE)

@@ -34,6 +34,7 @@ class SessionTest(unittest.TestCase):
             {
                 "PATH": os.environ["PATH"],
                 "HOME": str(self.folder),
+                "XDG_RUNTIME_DIR": str(self.folder),
                 "QT_QPA_PLATFORM": "offscreen",
                 "https_proxy": f"http://127.0.0.1:{port}",
             },

@@ -38,6 +38,28 @@ private Q_SLOTS:
                  u"没有保存这次操作："_qs + m_sample.files.writeFailure->localizedDescription());
     }
 
+    void theReceiptComesBeforeTheFile()
+    {
+        const auto model = m_sample.make();
+        QStringList told;
+        connect(model.get(), &InformationModel::workspaceChanged, this,
+                [&] { told.append(u"workspace"_qs); });
+        connect(model.get(), &InformationModel::receiptChanged, this,
+                [&] { told.append(model->receipt() ? u"receipt"_qs : u"no receipt"_qs); });
+        connect(model.get(), &InformationModel::errorMessageChanged, this,
+                [&] { told.append(u"error"_qs); });
+        m_sample.files.beforeReplacing = [&] { told.append(u"file"_qs); };
+
+        model->toggleKeep(u"a"_qs);
+        QCOMPARE(std::exchange(told, {}),
+                 QStringList({u"workspace"_qs, u"receipt"_qs, u"file"_qs}));
+
+        m_sample.files.writeFailure = FileError{FileError::Reason::NoSpace};
+        model->toggleKeep(u"b"_qs);
+        QCOMPARE(told, QStringList({u"workspace"_qs, u"no receipt"_qs, u"receipt"_qs,
+                                    u"workspace"_qs, u"no receipt"_qs, u"error"_qs}));
+    }
+
     void aFailedUndoCanBeTriedAgain()
     {
         const auto model = m_sample.make();

@@ -125,6 +125,8 @@ private Q_SLOTS:
         QTest::newRow("same with a fraction")
             << u"2026-09-02T04:00:00.000Z"_qs << u"已是最新（2 条，2026-09-02）"_qs;
         QTest::newRow("shorter than a day") << u"2026"_qs << u"已是最新（2 条，2026）"_qs;
+        QTest::newRow("a character of two units")
+            << u"2026-08-2😀T"_qs << u"已是最新（2 条，2026-08-2😀）"_qs;
         QTest::newRow("empty") << QString() << u"已是最新（2 条，）"_qs;
     }
 

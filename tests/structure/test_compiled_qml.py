@@ -11,7 +11,7 @@ import unittest
 from pathlib import Path
 
 # Lower it only by what was taken out of the QML files; raise it with what was added.
-LEAST_FUNCTIONS = 1617
+LEAST_FUNCTIONS = 1737
 
 FUNCTION = "[](const QQmlPrivate::AOTCompiledContext *aotContext, void *dataPtr"
 

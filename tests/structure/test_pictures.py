@@ -28,6 +28,13 @@ class PicturesTest(unittest.TestCase):
         taken = sorted(f"{screen.name}-{scheme}.png" for screen in PICTURED for scheme in SCHEMES)
         self.assertEqual(taken, kept)
 
+    def test_every_picture_is_in_true_colours(self):
+        bit_depth_and_colours = slice(24, 26)
+        self.assertEqual([], [
+            file.name
+            for file in (REPOSITORY / "docs/pictures").iterdir()
+            if file.read_bytes()[bit_depth_and_colours] != bytes([8, 2])])
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -27,7 +27,8 @@ ROOMS = {
     "CorvaniteInformation/Pages": {"CorvaniteInformationState", "Qt6::Gui", "Qt6::Qml"},
     "CorvaniteInformation/Controls": {CORE, "Qt6::Quick", "Qt6::Qml"},
     "CorvaniteInformation/Site": {"CorvaniteInformationState", "Qt6::Network", "QCoro6::Network"},
-    "CorvaniteInformation/Desktop": {"Qt6::DBus", "Qt6::Gui"},
+    "CorvaniteInformation/Desktop": {
+        "Qt6::DBus", "Qt6::Gui", "Qt6::GuiPrivate", "Freetype::Freetype"},
     "CorvaniteInformation/Screens/Workbench":
         {f"CorvaniteInformation{screen}" for screen in SCREENS} | {"Qt6::Qml"},
     "CorvaniteInformation/Program": {
@@ -40,7 +41,8 @@ ROOMS = {
 }
 
 # A library that a room keeps to itself.
-PRIVATE = {"ICU::uc", "simdjson::simdjson", "QCoro6::Network"}
+PRIVATE = {
+    "Freetype::Freetype", "ICU::uc", "QCoro6::Network", "Qt6::GuiPrivate", "simdjson::simdjson"}
 
 # What a library brings along that may be used too. Qt Qml would bring Qt Network.
 BRINGS = {
@@ -54,6 +56,8 @@ BRINGS = {
 OTHER_HEADERS = {
     "QCoroNetworkReply": "QCoro6::Network",
     "QCoroTask": "QCoro6::Core",
+    "freetype/ftmodapi.h": "Freetype::Freetype",
+    "private/qfontengine_ft_p.h": "Qt6::GuiPrivate",
     "simdjson.h": "simdjson::simdjson",
     "unicode/uchar.h": "ICU::uc",
 }

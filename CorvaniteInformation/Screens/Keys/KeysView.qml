@@ -17,7 +17,7 @@ Sheet {
     title: page.title
     visible: true
 
-    onOpened: closeButton.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason)
+    onOpened: closeButton.forceActiveFocus(Qt.TabFocusReason)
 
     KeysPage {
         id: page

@@ -17,6 +17,8 @@ FocusScope {
     signal lineFocused(position: int)
 
     readonly property bool receiptPinned: height === 0 || height >= 520
+    /// Not `atYEnd`, which stays true after rows have come below without a move.
+    readonly property bool goesOn: lines.contentY + lines.height + 1 < lines.originY + lines.contentHeight
     readonly property int textX: 21
     readonly property real textWidth: width - textX - 20
 
@@ -56,7 +58,7 @@ FocusScope {
         y: receipt.y - height
         width: parent.width - x
         height: 24
-        visible: rail.receiptPinned && !lines.atYEnd
+        visible: rail.receiptPinned && rail.goesOn
         gradient: Gradient {
             GradientStop {
                 position: 0

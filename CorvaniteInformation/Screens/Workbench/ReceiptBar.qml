@@ -49,7 +49,7 @@ FocusScope {
     }
 
     Announcement {
-        text: bar.message
+        text: bar.workbench.receipt
         Accessible.description: bar.undoable ? "按 Ctrl+Z 撤销" : ""
     }
 

@@ -27,8 +27,8 @@ MouseArea {
             return atLeft === atTop ? Qt.SizeFDiagCursor : Qt.SizeBDiagCursor;
         return atSide ? Qt.SizeHorCursor : Qt.SizeVerCursor;
     }
-    // From the first move on the drag is the desktop's, which may keep the release to itself.
-    onPositionChanged: {
+    // The drag is the desktop's, which may keep the release to itself.
+    onPressed: {
         edge.window.startSystemResize(side);
         visible = false;
         visible = true;

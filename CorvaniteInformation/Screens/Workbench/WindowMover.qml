@@ -9,25 +9,19 @@ MouseArea {
 
     required property Window window
 
+    /// How far the pointer goes before it moves the window, in pixels. The window trails behind it by
+    /// as much, so it is no more than the hand's unrest in a double click.
+    readonly property real slack: 3
     property point grip
 
-    // The window first catches up with the pointer. From then on the drag is the desktop's, which may
-    // keep the release to itself.
-    function move(by: point) {
-        if (window.visibility === Window.Windowed) {
-            window.x += by.x;
-            window.y += by.y;
-        }
+    onPressed: event => grip = Qt.point(event.x, event.y)
+    // From here on the drag is the desktop's, which may keep the release to itself.
+    onPositionChanged: event => {
+        if (Math.max(Math.abs(event.x - grip.x), Math.abs(event.y - grip.y)) < slack)
+            return;
         window.startSystemMove();
         visible = false;
         visible = true;
-    }
-
-    onPressed: event => grip = Qt.point(event.x, event.y)
-    onPositionChanged: event => {
-        const way = Qt.point(event.x - grip.x, event.y - grip.y);
-        if (Math.max(Math.abs(way.x), Math.abs(way.y)) >= Qt.styleHints.startDragDistance)
-            move(way);
     }
     onDoubleClicked: window.visibility === Window.Maximized ? window.showNormal() : window.showMaximized()
 }
