@@ -71,13 +71,17 @@ class IdleWatch:
         self._file = os.open(os.environ["IDLE"], os.O_WRONLY | os.O_CREAT)
         self._looks = 0
         self._in_vain = 0
+        self._tell()
 
     def look(self) -> bool:
         self._looks += 1
         waiting = event_manager.getManager()._eventQueue.qsize()
         self._in_vain = 0 if waiting else self._in_vain + 1
-        os.pwrite(self._file, f"{self._looks:08} {self._in_vain:08}".encode(), 0)
+        self._tell()
         return GLib.SOURCE_CONTINUE
+
+    def _tell(self) -> None:
+        os.pwrite(self._file, f"{self._looks:08} {self._in_vain:08}".encode(), 0)
 
 
 if __name__ == "__main__":
