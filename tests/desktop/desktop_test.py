@@ -21,7 +21,7 @@ FAILURES = Path(os.environ["CORVANITE_FAILURES"])
 
 SEED = Path(__file__).resolve().parents[2] / "CorvaniteInformationCore/seed/information-pack.json"
 
-IMPATIENCE = "QSpiApplication::keyEventError"
+IMPATIENCE = "QSpiApplication::"
 """Begins what Qt prints when a screen reader takes its time over a key."""
 
 EMPTY_WORKSPACE = {

@@ -73,7 +73,7 @@ class ScreenReaderTest(DesktopTest):
                     act(program, step)
                 session += "".join(f"{line}\n" for line in [KEY + step, *reader.hear(expected)])
         if session != EXPECTED.read_text():
-            FAILURES.mkdir(exist_ok=True)
+            FAILURES.mkdir(parents=True, exist_ok=True)
             (FAILURES / EXPECTED.name).write_text(session)
             self.fail(f"Compare {FAILURES / EXPECTED.name} with {EXPECTED}.")
 
