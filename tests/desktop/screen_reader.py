@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """A screen reader on a desktop of its own, and what it has said."""
 
+import re
 import sys
 import time
 from pathlib import Path
@@ -14,6 +15,9 @@ SILENCE = 10.0
 """Seconds without a word after which nothing more comes."""
 
 IDLE_LOOKS = 8
+
+VERIFIED = re.compile("(刚刚|昨天|[0-9]+ 小时前|[0-9]+月[0-9]+日)核验")
+"""When a card was verified, which depends on the day on which it is read."""
 
 
 class ScreenReader:
@@ -63,4 +67,5 @@ class ScreenReader:
 
     def _news(self) -> list[str]:
         lines = self._spoken.read_text(encoding="utf-8").splitlines(keepends=True)
-        return [line.rstrip("\n") for line in lines[self._heard:] if line.endswith("\n")]
+        whole = [line.rstrip("\n") for line in lines[self._heard:] if line.endswith("\n")]
+        return [VERIFIED.sub("某时核验", line) for line in whole]
