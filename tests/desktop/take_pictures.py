@@ -66,8 +66,8 @@ class Tour:
         self._program.press_keys(*["Tab"] * 2)
 
     def today_seen(self) -> None:
-        self.today_by_keyboard()
-        self._program.press_keys("Return")
+        self.today()
+        self._program.find_all(lambda element: element.role == "list item")[0].press()
         self._program.wait_for("关闭", "push button")
         self._program.press_keys("Escape")
         self._program.wait_until_gone("关闭")
