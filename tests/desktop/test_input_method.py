@@ -47,10 +47,19 @@ class Writer:
     def field(self) -> Element:
         return self._program.wait_for(self._field, "text")
 
-    def compose(self, letters: str) -> Rectangle:
-        """Where the candidates are shown."""
+    def compose(self, letters: str, beyond: int = 0) -> Rectangle:
+        """Where the candidates are shown, once that is below a line of the field's text and right of
+        `beyond`."""
+        place = self.field().extents()
         self._program.type(letters)
-        return self._program.wait_until(self.candidates, f"candidates for {letters}")
+
+        def shown_below() -> Rectangle | None:
+            shown = self.candidates()
+            right = shown and max(place.x, beyond) < shown.x < place.x + place.width
+            below = shown and place.y + 12 < shown.y < place.y + place.height + 12
+            return shown if right and below else None
+
+        return self._program.wait_until(shown_below, f"candidates below {letters}")
 
     def end(self, key: str, text: str) -> None:
         """Ends the composition by the key, which leaves that text in the field."""
@@ -94,22 +103,19 @@ class InputMethodTest(DesktopTest):
             program.press_keys("ctrl+n")
             writer = Writer(world, program, FIELD)
             program.wait_until_still()
-            empty, place = writer.beginning_of_text(), writer.field().extents()
+            empty = writer.beginning_of_text()
 
             shown = writer.compose("nihao")
             self.assertLess(shown.height, ONE_LINE)
             program.wait_until(lambda: writer.beginning_of_text() != empty, "letters in the field")
             self.assertEqual("", writer.field().text())
-            self.assert_below(shown, place)
 
             writer.end("Escape", "")
             program.wait_until(lambda: writer.beginning_of_text() == empty, "they are gone")
 
             writer.compose("nihao")
             writer.end("space", "你好")
-            further = writer.compose("shijie")
-            self.assert_below(further, place)
-            self.assertGreater(further.x, shown.x + 20)
+            writer.compose("shijie", beyond=shown.x + 20)
             writer.end("Return", "你好shijie")
             self.assertFalse(workspace_file(world.data_home).exists())
 
@@ -124,7 +130,7 @@ class InputMethodTest(DesktopTest):
             program.wait_for(NOTE).take_focus()
             writer = Writer(world, program, NOTE)
 
-            self.assert_below(writer.compose("nihao"), writer.field().extents())
+            writer.compose("nihao")
             writer.end("space", "你好")
             writer.compose("shijie")
             writer.end("Return", "你好shijie")
@@ -149,7 +155,7 @@ class InputMethodTest(DesktopTest):
             program.wait_for(title, "list item")
             writer = Writer(world, program, SEARCH)
 
-            self.assert_below(writer.compose("meiyou"), writer.field().extents())
+            writer.compose("meiyou")
             program.wait_until_still()
             program.wait_for(title, "list item")
             writer.end("Escape", "")
@@ -158,11 +164,6 @@ class InputMethodTest(DesktopTest):
             writer.compose("meiyou")
             writer.end("space", "没有")
             program.wait_for("没有匹配的内容", "heading")
-
-    def assert_below(self, shown: Rectangle, field: Rectangle) -> None:
-        """It stands below a line of the field's text."""
-        self.assertTrue(field.x <= shown.x < field.x + field.width, (shown, field))
-        self.assertTrue(field.y + 12 < shown.y < field.y + field.height + 12, (shown, field))
 
 
 if __name__ == "__main__":
