@@ -21,6 +21,9 @@ FAILURES = Path(os.environ["CORVANITE_FAILURES"])
 
 SEED = Path(__file__).resolve().parents[2] / "CorvaniteInformationCore/seed/information-pack.json"
 
+IMPATIENCE = "QSpiApplication::"
+"""Begins what Qt prints when a screen reader takes its time over a key."""
+
 EMPTY_WORKSPACE = {
     "customSources": [],
     "following": [],
@@ -43,7 +46,8 @@ class DesktopTest(unittest.TestCase):
             try:
                 yield world
                 for program in world.programs():
-                    self.assertEqual([], program.messages())
+                    messages = program.messages()
+                    self.assertEqual([], [m for m in messages if not m.startswith(IMPATIENCE)])
             except BaseException:
                 leave_behind(world, FAILURES / self.id().removeprefix("__main__."))
                 raise

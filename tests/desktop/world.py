@@ -92,6 +92,29 @@ class World:
         self._programs.append(started)
         return started
 
+    def start_helper(self, name: str, command: list[str], **variables: str) -> None:
+        """Starts what stands beside the program on a desktop, with these variables more."""
+        self._run(name, command, environment=self.environment | variables)
+
+    def wait_for_service(self, name: str) -> None:
+        """Waits until somebody has that name on the session bus."""
+
+        def has_owner() -> bool:
+            reply = self._session_bus.call_sync(
+                "org.freedesktop.DBus",
+                "/org/freedesktop/DBus",
+                "org.freedesktop.DBus",
+                "NameHasOwner",
+                GLib.Variant("(s)", (name,)),
+                None,
+                Gio.DBusCallFlags.NONE,
+                int(PATIENCE * 1000),
+                None,
+            )
+            return reply.unpack()[0]
+
+        wait_until(has_owner, f"the service {name}")
+
     def programs(self) -> list[Program]:
         """Every program started here, in order."""
         return list(self._programs)
@@ -177,7 +200,7 @@ class World:
 
     def _start_accessibility(self) -> None:
         self._run("accessibility", ["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
-        self._wait_for_service("org.a11y.Bus")
+        self.wait_for_service("org.a11y.Bus")
         address = self._ask_accessibility("org.a11y.Bus", "GetAddress", None)
         self.accessibility = AccessibilityBus(address.unpack()[0])
         enabled = GLib.Variant("b", self._screen_reader)
@@ -208,27 +231,9 @@ class World:
         # Nothing is to look hovered by chance.
         answer_of(["xdotool", "mousemove", *map(str, self._screen)], self.environment)
 
-
     def _start_appearance_portal(self, scheme: str) -> None:
         self._run("portal", [sys.executable, str(HERE / "appearance_portal.py"), scheme])
-        self._wait_for_service("org.freedesktop.portal.Desktop")
-
-    def _wait_for_service(self, name: str) -> None:
-        def has_owner() -> bool:
-            reply = self._session_bus.call_sync(
-                "org.freedesktop.DBus",
-                "/org/freedesktop/DBus",
-                "org.freedesktop.DBus",
-                "NameHasOwner",
-                GLib.Variant("(s)", (name,)),
-                None,
-                Gio.DBusCallFlags.NONE,
-                int(PATIENCE * 1000),
-                None,
-            )
-            return reply.unpack()[0]
-
-        wait_until(has_owner, f"the service {name}")
+        self.wait_for_service("org.freedesktop.portal.Desktop")
 
     def _end(self) -> None:
         for process in reversed(self._processes):

@@ -554,7 +554,7 @@ private Q_SLOTS:
     {
         ScreenReader::click(m_window->find(u"信源"_qs, QAccessible::PageTab));
         m_window->settle();
-        auto* const sources = m_window->find(u"信源清单"_qs, QAccessible::Pane);
+        auto* const sources = m_window->find(u"信源清单"_qs, QAccessible::List);
         QVERIFY(sources);
         m_window->pressKey(Qt::Key_PageDown);
         QVERIFY(sources->property("contentY").toReal() > 0);

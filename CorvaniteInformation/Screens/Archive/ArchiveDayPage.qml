@@ -16,7 +16,7 @@ PageList {
     foot: foot
     model: page.focusRows
 
-    Accessible.role: Accessible.Pane
+    Accessible.role: Accessible.List
     Accessible.name: page.day.title
 
     Connections {

@@ -106,10 +106,6 @@ Column {
             textStyle: InformationTheme.small
             color: form.refused ? InformationTheme.accent : InformationTheme.ink2
             Accessible.ignored: form.refused
-
-            Announcement {
-                text: form.workbench.intakeErrorMessage
-            }
         }
     }
 

@@ -30,7 +30,7 @@ FocusScope {
         clip: true
         focus: true
 
-        Accessible.role: Accessible.Pane
+        Accessible.role: Accessible.List
         Accessible.name: "信源清单"
 
         Keys.forwardTo: [scroller]

@@ -19,6 +19,11 @@ AppButton {
     Accessible.name: row.text + "，" + row.note
     Accessible.description: row.open ? "已展开" : "已收起"
 
+    DisclosureAnnouncement {
+        button: row
+        description: row.Accessible.description
+    }
+
     HandCursor {}
 
     Column {

@@ -105,6 +105,8 @@ Item {
                     when: face.row.hasChange
 
                     QuietButton {
+                        id: disclosure
+
                         x: -leftPadding
                         implicitHeight: 32
                         text: "看变化"
@@ -114,6 +116,11 @@ Item {
                         iconTrails: true
                         Accessible.description: face.row.changeOpen ? "已展开" : "已收起"
                         onClicked: face.changeToggled()
+
+                        DisclosureAnnouncement {
+                            button: disclosure
+                            description: disclosure.Accessible.description
+                        }
                     }
                 }
 

@@ -31,7 +31,7 @@ FocusScope {
         head: head
         model: page.rows
 
-        Accessible.role: Accessible.Pane
+        Accessible.role: Accessible.List
         Accessible.name: "周报精选"
 
         Column {

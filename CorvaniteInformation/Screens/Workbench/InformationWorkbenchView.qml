@@ -157,6 +157,11 @@ Window {
             home: surfaces
         }
 
+        // In its sheet a screen reader would say the sheet's name before each, and an empty one after it.
+        Announcement {
+            text: window.workbench.intakeErrorMessage
+        }
+
         // In the header, but the last stops of the Tab key.
         WindowButtons {
             id: buttons

@@ -48,7 +48,9 @@ FocusScope {
         }
     }
 
+    // Not in the bar, which its transition shows, hides and shows again: each would be read out.
     Announcement {
+        parent: bar.parent
         text: bar.workbench.receipt
         Accessible.description: bar.undoable ? "按 Ctrl+Z 撤销" : ""
     }

@@ -16,8 +16,6 @@ FocusScope {
 
     readonly property int current: workbench.surface
 
-    Accessible.role: Accessible.Pane
-
     onCurrentChanged: appearing.restart()
 
     function searchKept() {
