@@ -709,8 +709,8 @@ private:
 
     QQuickItem* receiptBar() const
     {
-        auto* const receipt = m_window->awaited(m_model->receiptText(), QAccessible::Notification);
-        return receipt ? receipt->parentItem() : nullptr;
+        auto* const close = m_window->awaited(u"关闭回执"_qs, QAccessible::Button);
+        return close ? close->parentItem()->parentItem() : nullptr;
     }
 
     QQuickItem* pane() const
