@@ -107,3 +107,12 @@ function(ease_code_that_qt_writes target)
         target_precompile_headers(${target}_qmlcache REUSE_FROM object_headers)
     endif()
 endfunction()
+
+# Every QML file goes through our own caller of Qt's compiler, which says why.
+get_target_property(qmlcachegen Qt6::qmlcachegen LOCATION)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/qmlcachegen.in ${CMAKE_BINARY_DIR}/qmlcachegen @ONLY)
+get_target_property(configurations Qt6::qmlcachegen IMPORTED_CONFIGURATIONS)
+foreach(configuration IN LISTS configurations)
+    set_target_properties(Qt6::qmlcachegen PROPERTIES
+        IMPORTED_LOCATION_${configuration} ${CMAKE_BINARY_DIR}/qmlcachegen)
+endforeach()
