@@ -68,7 +68,7 @@ struct LocalizedText
     std::optional<QString> en;
 
     /// Chinese, even if empty, before English.
-    QString picked() const { return zh ? *zh : en.value_or(QString()); }
+    QString picked() && { return zh ? *std::move(zh) : std::move(en).value_or(QString()); }
 };
 
 LocalizedText readLocalized(const Object& object)
@@ -107,7 +107,7 @@ InformationFollowTarget readFollowTarget(const Object& object)
         .label = readOptionalLocalized(object, Key::label).picked(),
         .scope = readOptionalLocalized(object, Key::scope).picked(),
         .url = object.string(Key::url),
-        .updateMode = fromRawValue<InformationFollowUpdateMode>(object.string(Key::updateMode))
+        .updateMode = fromRawValue<InformationFollowUpdateMode>(object.token(Key::updateMode))
                           .value_or(InformationFollowUpdateMode::SnapshotBaseline),
         .discoveryRef = object.optionalString(Key::discoveryRef),
     };
@@ -116,7 +116,7 @@ InformationFollowTarget readFollowTarget(const Object& object)
 InformationSupportingEvidence readSupportingEvidence(const Object& object)
 {
     return {
-        .role = object.string(Key::role) == businessFactRole
+        .role = object.token(Key::role) == businessFactRole
                     ? InformationSupportingEvidenceRole::BusinessFact
                     : InformationSupportingEvidenceRole::ProductFact,
         .observationRef = object.string(Key::observationRef),
@@ -127,11 +127,11 @@ InformationSupportingEvidence readSupportingEvidence(const Object& object)
 InformationIngestion readIngestion(const Object& object)
 {
     // There is one mode: the key must hold a text, whichever.
-    object.string(Key::mode);
+    object.token(Key::mode);
     return {
         .mode = InformationIngestionMode::Editorial,
         .adapter = object.string(Key::adapter),
-        .evidenceClass = fromRawValue<InformationEvidenceClass>(object.string(Key::evidenceClass))
+        .evidenceClass = fromRawValue<InformationEvidenceClass>(object.token(Key::evidenceClass))
                              .value_or(InformationEvidenceClass::CreatorSelfReport),
         .observationRef = object.optionalString(Key::observationRef),
         .changeRef = object.optionalString(Key::changeRef),
@@ -143,9 +143,9 @@ InformationSignal readSignal(const Object& object)
 {
     return {
         .id = object.string(Key::id),
-        .kind = fromRawValue<InformationSignalKind>(object.string(Key::state))
+        .kind = fromRawValue<InformationSignalKind>(object.token(Key::state))
                     .value_or(InformationSignalKind::New),
-        .lane = fromRawValue<InformationLane>(object.string(Key::lane))
+        .lane = fromRawValue<InformationLane>(object.token(Key::lane))
                     .value_or(InformationLane::PlatformShift),
         .publishedAt = object.optionalString(Key::publishedAt),
         .observedAt = object.string(Key::observedAt),

@@ -8,6 +8,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 #include <vector>
 
@@ -138,19 +139,37 @@ Picks focusPicks(const Picks& pool, qsizetype limit, const QString& asOf,
     return ordered;
 }
 
-// The last kept first. The map gives the ids in ascending order, and a stable sort leaves them so
-// where times tie.
-std::vector<InformationWorkspace::SavedMap::const_pointer>
-lastSavedFirst(const InformationWorkspace::SavedMap& entries)
+struct SavedSignal
 {
-    std::vector<InformationWorkspace::SavedMap::const_pointer> saved;
-    saved.reserve(entries.size());
-    for (const auto& entry : entries) {
-        saved.push_back(&entry);
+    std::chrono::sys_seconds savedAt;
+    const InformationSignal* signal;
+};
+
+// The last kept first, without those that are no longer published. The map gives the ids in
+// ascending order, and a stable sort leaves them so where times tie.
+std::vector<SavedSignal> lastSavedFirst(const InformationWorkspace::SavedMap& entries,
+                                        const QHash<QString, const InformationSignal*>& known)
+{
+    std::vector<SavedSignal> saved;
+    for (const auto& [id, entry] : entries) {
+        if (const InformationSignal* signal = known.value(id)) {
+            saved.push_back({entry.savedAt, signal});
+        }
     }
-    std::ranges::stable_sort(saved, std::ranges::greater(),
-                             [](const auto* entry) { return entry->second.savedAt; });
+    std::ranges::stable_sort(saved, std::ranges::greater(), &SavedSignal::savedAt);
     return saved;
+}
+
+// For each followed target its newest signal, in the order of following.
+Picks followedPicks(const QList<QString>& following, const NewestByTarget& newest)
+{
+    Picks followed;
+    for (const QString& target : following) {
+        if (const InformationSignal* signal = newest.value(target)) {
+            followed.push_back(signal);
+        }
+    }
+    return followed;
 }
 
 } // namespace
@@ -188,43 +207,36 @@ InformationProjection::remainingToday(const QList<InformationSignal>& signals,
 QList<InformationSignal> InformationProjection::kept(const QList<InformationSignal>& signals,
                                                      const InformationWorkspace& workspace)
 {
-    const auto known = pointersById(signals);
     const NewestByTarget newest = newestByTarget(signals);
-    const QSet<QString> followed(workspace.following.begin(), workspace.following.end());
+    const Picks followed = followedPicks(workspace.following, newest);
+    QSet<QString> followedTargets;
+    followedTargets.reserve(newest.size());
+    for (const InformationSignal* signal : followed) {
+        followedTargets.insert(signal->followTarget.id);
+    }
 
     Picks shown;
     QSet<QString> shownTargets;
+    shownTargets.reserve(newest.size());
     const auto show = [&shown, &shownTargets](const InformationSignal* signal) {
-        if (!shownTargets.contains(signal->followTarget.id)) {
-            shownTargets.insert(signal->followTarget.id);
+        const auto countBefore = shownTargets.size();
+        shownTargets.insert(signal->followTarget.id);
+        if (shownTargets.size() > countBefore) {
             shown.push_back(signal);
         }
     };
-    for (const auto* entry : lastSavedFirst(workspace.saved)) {
-        if (const InformationSignal* signal = known.value(entry->first)) {
-            const QString& target = signal->followTarget.id;
-            show(followed.contains(target) ? newest.value(target) : signal);
-        }
+    for (const auto& [savedAt, signal] : lastSavedFirst(workspace.saved, pointersById(signals))) {
+        const QString& target = signal->followTarget.id;
+        show(followedTargets.contains(target) ? newest.value(target) : signal);
     }
-    for (const QString& target : workspace.following) {
-        if (const InformationSignal* signal = newest.value(target)) {
-            show(signal);
-        }
-    }
+    std::ranges::for_each(followed, show);
     return copies(shown);
 }
 
 QList<InformationSignal> InformationProjection::following(const QList<InformationSignal>& signals,
                                                           const InformationWorkspace& workspace)
 {
-    const NewestByTarget newest = newestByTarget(signals);
-    QList<InformationSignal> followed;
-    for (const QString& target : workspace.following) {
-        if (const InformationSignal* signal = newest.value(target)) {
-            followed.append(*signal);
-        }
-    }
-    return followed;
+    return copies(followedPicks(workspace.following, newestByTarget(signals)));
 }
 
 QString InformationProjection::versionKey(const InformationSignal& signal)

@@ -2,7 +2,45 @@
 
 #include "JsonReader.h"
 
+#include <algorithm>
 #include <cmath>
+
+namespace {
+
+char32_t bitsOf(char byte, int mask)
+{
+    return static_cast<char32_t>(byte & mask);
+}
+
+// Of UTF-8 to the letter, which simdjson makes sure of. Gives the end of the units.
+char16_t* decodeUtf8(std::string_view utf8, char16_t* unit)
+{
+    const char* byte = utf8.data();
+    const char* const end = byte + utf8.size();
+    while (byte != end) {
+        const auto lead = static_cast<unsigned char>(*byte);
+        if (lead < 0x80) {
+            *unit++ = lead;
+            byte += 1;
+        } else if (lead < 0xE0) {
+            *unit++ = static_cast<char16_t>(bitsOf(byte[0], 0x1F) << 6 | bitsOf(byte[1], 0x3F));
+            byte += 2;
+        } else if (lead < 0xF0) {
+            *unit++ = static_cast<char16_t>(bitsOf(byte[0], 0x0F) << 12 |
+                                            bitsOf(byte[1], 0x3F) << 6 | bitsOf(byte[2], 0x3F));
+            byte += 3;
+        } else {
+            const char32_t character = bitsOf(byte[0], 0x07) << 18 | bitsOf(byte[1], 0x3F) << 12 |
+                                       bitsOf(byte[2], 0x3F) << 6 | bitsOf(byte[3], 0x3F);
+            *unit++ = QChar::highSurrogate(character);
+            *unit++ = QChar::lowSurrogate(character);
+            byte += 4;
+        }
+    }
+    return unit;
+}
+
+} // namespace
 
 JsonReader::JsonReader(QByteArrayView document)
 {
@@ -31,12 +69,11 @@ JsonReader::Object JsonReader::root()
 
 QString JsonReader::fromUtf8(std::string_view utf8)
 {
-    QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    if (utf8.starts_with("\xEF\xBB\xBF")) {
-        // Dropped as a byte order mark, but inside a document it is a character.
-        text.prepend(QChar::ByteOrderMark);
-    }
-    return text;
+    // A text never has more units than bytes, and Chinese a third of them: what is kept is as long
+    // as the text.
+    m_units.resize(std::max(m_units.size(), utf8.size()));
+    const char16_t* const end = decodeUtf8(utf8, m_units.data());
+    return QString(reinterpret_cast<const QChar*>(m_units.data()), end - m_units.data());
 }
 
 void JsonReader::fail(Error::Kind kind, std::string_view key)
@@ -56,6 +93,12 @@ std::optional<QString> JsonReader::Object::optionalString(std::string_view key) 
 {
     const auto element = find(key);
     return element ? std::optional(text(key, *element)) : std::nullopt;
+}
+
+QLatin1StringView JsonReader::Object::token(std::string_view key) const
+{
+    const auto element = require(key);
+    return element ? QLatin1StringView(utf8(key, *element)) : QLatin1StringView();
 }
 
 qint64 JsonReader::Object::integer(std::string_view key) const
@@ -102,10 +145,13 @@ void JsonReader::Object::refuse(std::string_view key) const
 std::optional<simdjson::dom::element> JsonReader::Object::find(std::string_view key) const
 {
     simdjson::dom::element element;
-    if (!m_object || m_object->at_key(key).get(element) != simdjson::SUCCESS || element.is_null()) {
+    if (m_object && m_next != m_object->end() && m_next.key_equals(key)) {
+        element = m_next.value();
+        ++m_next;
+    } else if (!m_object || m_object->at_key(key).get(element) != simdjson::SUCCESS) {
         return std::nullopt;
     }
-    return element;
+    return element.is_null() ? std::nullopt : std::optional(element);
 }
 
 std::optional<simdjson::dom::element> JsonReader::Object::require(std::string_view key) const
@@ -128,14 +174,19 @@ std::optional<simdjson::dom::array> JsonReader::Object::array(std::string_view k
     return array;
 }
 
-QString JsonReader::Object::text(std::string_view key, simdjson::dom::element element) const
+std::string_view JsonReader::Object::utf8(std::string_view key,
+                                          simdjson::dom::element element) const
 {
     std::string_view utf8;
     if (element.get(utf8) != simdjson::SUCCESS) {
         refuse(key);
-        return {};
     }
-    return fromUtf8(utf8);
+    return utf8;
+}
+
+QString JsonReader::Object::text(std::string_view key, simdjson::dom::element element) const
+{
+    return m_reader->fromUtf8(utf8(key, element));
 }
 
 qint64 JsonReader::Object::wholeNumber(std::string_view key, simdjson::dom::element element) const

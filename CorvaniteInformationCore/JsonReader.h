@@ -3,12 +3,14 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QLatin1StringView>
 #include <QList>
 #include <QString>
 
 #include <simdjson.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <type_traits>
 
@@ -40,11 +42,16 @@ public:
     ///
     /// A required key must be there with a value of its type. An optional key may be missing or
     /// null, which gives nothing or an empty list; any other value must be of its type too.
+    ///
+    /// Keys are found in any order, and fastest in the document's. A key that the document repeats
+    /// has its first value when it is asked for once.
     class Object
     {
     public:
         QString string(std::string_view key) const;
         std::optional<QString> optionalString(std::string_view key) const;
+        /// The bytes of a required string, to be compared with ASCII; valid as long as the reader.
+        QLatin1StringView token(std::string_view key) const;
 
         /// A whole number within 64 bits, in whatever notation: 1, 1.0 and 1e2 are integers.
         qint64 integer(std::string_view key) const;
@@ -76,7 +83,7 @@ public:
 
         explicit Object(JsonReader& reader) : m_reader(&reader) {}
         Object(JsonReader& reader, simdjson::dom::object object)
-            : m_reader(&reader), m_object(object)
+            : m_reader(&reader), m_object(object), m_next(object.begin())
         {
         }
 
@@ -84,6 +91,7 @@ public:
         std::optional<simdjson::dom::element> require(std::string_view key) const;
         std::optional<simdjson::dom::array> array(std::string_view key,
                                                   simdjson::dom::element element) const;
+        std::string_view utf8(std::string_view key, simdjson::dom::element element) const;
         QString text(std::string_view key, simdjson::dom::element element) const;
         qint64 wholeNumber(std::string_view key, simdjson::dom::element element) const;
         Object nested(std::string_view key, simdjson::dom::element element) const;
@@ -95,6 +103,8 @@ public:
         JsonReader* m_reader;
         /// Nothing where no object was found.
         std::optional<simdjson::dom::object> m_object;
+        /// The member behind those that were found in the document's order.
+        mutable simdjson::dom::object::iterator m_next;
     };
 
     explicit JsonReader(QByteArrayView document);
@@ -106,13 +116,15 @@ public:
     const std::optional<Error>& error() const { return m_error; }
 
 private:
-    static QString fromUtf8(std::string_view utf8);
+    QString fromUtf8(std::string_view utf8);
 
     void fail(Error::Kind kind, std::string_view key);
 
     simdjson::dom::parser m_parser;
     std::optional<simdjson::dom::element> m_root;
     std::optional<Error> m_error;
+    /// Where texts are decoded.
+    std::u16string m_units;
 };
 
 template <typename Read>
@@ -163,6 +175,6 @@ void JsonReader::Object::forEachMember(Visit visit) const
         if (m_reader->m_error) {
             return;
         }
-        visit(fromUtf8(member.key), value);
+        visit(m_reader->fromUtf8(member.key), value);
     }
 }

@@ -90,17 +90,29 @@ void KeptThreads::writeNote(InformationWorkspace& workspace, const InformationSi
     workspace.saved.at(entry ? entry->first : signal.id).note = wellFormedText(note);
 }
 
+QList<QString> KeptThreads::searchedTexts(const QList<InformationSignal>& signals,
+                                          const InformationWorkspace& workspace) const
+{
+    QList<QString> texts;
+    texts.reserve(signals.size());
+    for (const InformationSignal& signal : signals) {
+        texts.append(searchedText(signal, savedEntry(workspace, signal)));
+    }
+    return texts;
+}
+
 QList<InformationSignal> KeptThreads::found(const QString& search,
-                                            const InformationWorkspace& workspace,
-                                            QList<InformationSignal> signals) const
+                                            const QList<InformationSignal>& signals,
+                                            const QList<QString>& searchedTexts)
 {
     const QString text = query(search);
-    if (!text.isEmpty()) {
-        signals.removeIf([&](const InformationSignal& signal) {
-            return !searchedText(signal, savedEntry(workspace, signal)).contains(text);
-        });
+    QList<InformationSignal> found;
+    for (qsizetype at = 0; at < signals.size(); ++at) {
+        if (searchedTexts.at(at).contains(text)) {
+            found.append(signals.at(at));
+        }
     }
-    return signals;
+    return found;
 }
 
 QList<CustomInformationSource> KeptThreads::found(const QString& search,

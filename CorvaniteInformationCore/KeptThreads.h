@@ -43,11 +43,16 @@ public:
     void writeNote(InformationWorkspace& workspace, const InformationSignal& signal,
                    const QString& note, std::chrono::sys_seconds at) const;
 
-    /// The signals that a search in the kept list finds: in their texts, and in the reason and the
-    /// note that the reader kept them with. The searched text is trimmed; letter case and an empty
-    /// search do not count.
-    QList<InformationSignal> found(const QString& search, const InformationWorkspace& workspace,
-                                   QList<InformationSignal> signals) const;
+    /// Of each signal what a search in the kept list looks at: its texts, and the reason and the
+    /// note that the reader kept it with. To be asked once for many searches.
+    QList<QString> searchedTexts(const QList<InformationSignal>& signals,
+                                 const InformationWorkspace& workspace) const;
+
+    /// The signals that a search finds in their `searchedTexts`. The search is trimmed; letter case
+    /// and an empty search do not count.
+    static QList<InformationSignal> found(const QString& search,
+                                          const QList<InformationSignal>& signals,
+                                          const QList<QString>& searchedTexts);
 
     /// The same in what the reader handed in.
     static QList<CustomInformationSource> found(const QString& search,

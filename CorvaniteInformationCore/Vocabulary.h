@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QLatin1StringView>
-#include <QStringView>
 
 #include <array>
 #include <optional>
@@ -34,8 +33,8 @@ constexpr QLatin1StringView rawValue(Enum value)
 }
 
 /// The case that the token stands for, compared exactly; nothing for an unknown token.
-template <typename Enum>
-constexpr std::optional<Enum> fromRawValue(QStringView token)
+template <typename Enum, typename Text>
+constexpr std::optional<Enum> fromRawValue(const Text& token)
 {
     for (const auto& entry : vocabulary<Enum>) {
         if (token == entry.token) {

@@ -12,7 +12,7 @@ KeptRow KeptRow::from(const InformationSignal& signal)
     row.title = signal.title;
     row.status =
         signal.source + u" · "_qs + WorkbenchTexts::followText(signal.followTarget.updateMode);
-    row.address = OpenableAddress::from(signal.originalURL);
+    row.originalURL = signal.originalURL;
     return row;
 }
 
@@ -24,4 +24,9 @@ KeptRow KeptRow::from(const CustomInformationSource& source)
     row.title = source.input;
     row.status = u"已收下 · 这个来源尚未接入更新"_qs;
     return row;
+}
+
+QString KeptRow::address() const
+{
+    return OpenableAddress::from(originalURL);
 }

@@ -19,7 +19,7 @@ struct KeptRow
     Q_PROPERTY(bool custom MEMBER custom CONSTANT FINAL)
     Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
     Q_PROPERTY(QString status MEMBER status CONSTANT FINAL)
-    Q_PROPERTY(QString address MEMBER address CONSTANT FINAL)
+    Q_PROPERTY(QString address READ address CONSTANT FINAL)
 
 public:
     static KeptRow from(const InformationSignal& signal);
@@ -32,8 +32,12 @@ public:
     /// The signal's title, or the hand-in itself.
     QString title;
     QString status;
-    /// Of the signal's original; empty when it is no address to open.
-    QString address;
+    /// Of the signal, as it came.
+    QString originalURL;
+
+    /// Of the signal's original; empty when it is no address to open. Looked at for the rows that
+    /// are shown alone.
+    QString address() const;
 
     QString key() const { return (custom ? u"source:"_qs : u"signal:"_qs) + itemId; }
 

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QList>
 
+#include <algorithm>
 #include <utility>
 
 /// Rows of one kind. A row is known by its `key()`: `setRows` tells the view which rows came, went,
@@ -95,8 +96,8 @@ private:
             ++end;
         }
         beginInsertRows({}, static_cast<int>(position), static_cast<int>(end - 1));
-        m_rows = m_rows.first(position) + rows.sliced(position, end - position) +
-                 m_rows.sliced(position);
+        m_rows.insert(position, end - position, Row());
+        std::copy(rows.begin() + position, rows.begin() + end, m_rows.begin() + position);
         endInsertRows();
         return end;
     }

@@ -78,6 +78,12 @@ bool InformationModel::isKept(const InformationSignal& signal) const
         .contains(signal.followTarget.id);
 }
 
+const QList<InformationSignal>& InformationModel::allKeptSignals() const
+{
+    return cached(m_caches.allKeptSignals,
+                  [this] { return InformationProjection::kept(signals(), workspace()); });
+}
+
 qsizetype InformationModel::laneCount(InformationLane lane) const
 {
     return std::ranges::count(visibleSignals(), lane, &InformationSignal::lane);
@@ -106,8 +112,7 @@ QList<InformationSignal> InformationModel::remainingSignals() const
 
 qsizetype InformationModel::keptItemCount() const
 {
-    return InformationProjection::kept(signals(), workspace()).size() +
-           workspace().customSources.size();
+    return allKeptSignals().size() + workspace().customSources.size();
 }
 
 std::optional<KeptThreads::SavedEntry>
@@ -118,8 +123,13 @@ InformationModel::savedEntry(const InformationSignal& signal) const
 
 QList<InformationSignal> InformationModel::keptSignals() const
 {
-    return m_threads.found(search(), workspace(),
-                           InformationProjection::kept(signals(), workspace()));
+    if (search().isEmpty()) {
+        return allKeptSignals();
+    }
+    const auto& texts = cached(m_caches.searchedTexts, [this] {
+        return m_threads.searchedTexts(allKeptSignals(), workspace());
+    });
+    return KeptThreads::found(search(), allKeptSignals(), texts);
 }
 
 QList<CustomInformationSource> InformationModel::keptCustomSources() const

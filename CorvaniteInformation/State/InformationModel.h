@@ -117,6 +117,8 @@ public:
     const QList<SelectionDay>& archiveDays() const;
     const QList<WeeklyDigest::Week>& weeklyWeeks() const;
     bool isKept(const InformationSignal& signal) const;
+    /// The kept list, whatever is searched.
+    const QList<InformationSignal>& allKeptSignals() const;
 
     // Derived reads, computed anew on each call
 
@@ -210,6 +212,8 @@ private:
         std::optional<QList<SelectionDay>> archiveDays;
         std::optional<QList<WeeklyDigest::Week>> weeklyWeeks;
         std::optional<QSet<QString>> keptTargets;
+        std::optional<QList<InformationSignal>> allKeptSignals;
+        std::optional<QList<QString>> searchedTexts;
     };
 
     /// Applies, announces, saves; on failure takes back, clears the receipt and says why.

@@ -249,6 +249,31 @@ private Q_SLOTS:
         QVERIFY(!reader.error());
     }
 
+    void keepsTheWholeOfUnicode()
+    {
+        QString text;
+        for (char32_t character = 0x20; character <= QChar::LastValidCodePoint; ++character) {
+            if (!QChar::isSurrogate(character) && character != U'"' && character != U'\\') {
+                text += QChar::fromUcs4(character);
+            }
+        }
+        JsonReader reader("{\"k\": \"" + text.toUtf8() + "\"}");
+
+        QVERIFY(reader.root().string("k") == text);
+    }
+
+    void tokensAreBytes()
+    {
+        JsonReader reader(R"({"plain": "new", "other": "新", "number": 1})");
+        const auto root = reader.root();
+
+        QCOMPARE(root.token("plain"), QLatin1StringView("new"));
+        QCOMPARE(root.token("other"), QLatin1StringView("新"));
+        QVERIFY(!reader.error());
+        QCOMPARE(root.token("number"), QLatin1StringView());
+        QCOMPARE(reader.error(), (JsonReader::Error{Kind::InvalidValue, u"number"_qs}));
+    }
+
     void firstErrorIsKept()
     {
         JsonReader reader(R"({"number": "x"})");
@@ -300,11 +325,44 @@ private Q_SLOTS:
         QCOMPARE(reader.error(), (JsonReader::Error{Kind::InvalidValue, u"b"_qs}));
     }
 
+    void ofARepeatedKeyTheFirstCounts_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+
+        QTest::newRow("alone") << QByteArray(R"({"a": "", "k": "first", "k": 2, "z": ""})");
+        QTest::newRow("around another")
+            << QByteArray(R"({"k": "first", "a": "", "k": 2, "z": ""})");
+        QTest::newRow("before another")
+            << QByteArray(R"({"k": "first", "k": 2, "a": "", "z": ""})");
+        QTest::newRow("behind another")
+            << QByteArray(R"({"a": "", "z": "", "k": "first", "k": 2})");
+        QTest::newRow("another") << QByteArray(
+            R"({"a": "", "a": 1, "k": "first", "z": "", "k": 2})");
+    }
+
     void ofARepeatedKeyTheFirstCounts()
     {
-        JsonReader reader(R"({"k": "first", "k": 2})");
+        QFETCH(QByteArray, document);
+        JsonReader reader(document);
+        const auto root = reader.root();
+        root.string("a");
 
-        QCOMPARE(reader.root().string("k"), u"first"_qs);
+        QCOMPARE(root.string("k"), u"first"_qs);
+        root.string("z");
+        QVERIFY(!reader.error());
+    }
+
+    void findsMembersInAnyOrder()
+    {
+        JsonReader reader(R"({"a": "1", "b": "2", "c": null, "d": "4"})");
+        const auto root = reader.root();
+
+        QCOMPARE(root.string("b"), u"2"_qs);
+        QCOMPARE(root.optionalString("absent"), std::nullopt);
+        QCOMPARE(root.string("a"), u"1"_qs);
+        QCOMPARE(root.optionalString("c"), std::nullopt);
+        QCOMPARE(root.string("d"), u"4"_qs);
+        QCOMPARE(root.optionalString("absent as well"), std::nullopt);
         QVERIFY(!reader.error());
     }
 };

@@ -198,7 +198,10 @@ private Q_SLOTS:
         const auto workspace =
             workspaceWith({{u"b"_qs, {early, u"Kept for"_qs, u"My note"_qs}}}, {});
 
-        QTEST(idsOf(m_threads.found(search, workspace, {a, x})), "found");
+        const QList<InformationSignal> signals{a, x};
+        const auto texts = m_threads.searchedTexts(signals, workspace);
+
+        QTEST(idsOf(KeptThreads::found(search, signals, texts)), "found");
     }
 
     void aSearchFindsHandIns_data()

@@ -36,7 +36,7 @@ private Q_SLOTS:
         QVERIFY(!row.custom);
         QCOMPARE(row.title, u"Title of a"_qs);
         QTEST(row.status, "status");
-        QCOMPARE(row.address, u"https://origin.example/a"_qs);
+        QCOMPARE(row.address(), u"https://origin.example/a"_qs);
     }
 
     void hasNoAddressWhenTheOriginalCannotBeOpened_data()
@@ -56,7 +56,7 @@ private Q_SLOTS:
         auto signal = sampleSignal(u"a"_qs);
         signal.originalURL = original;
 
-        QCOMPARE(KeptRow::from(signal).address, QString());
+        QCOMPARE(KeptRow::from(signal).address(), QString());
     }
 
     void showsWhatWasHandedIn()
@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(row.itemId, u"6b0cbf4e-3a1f-4d0a-9f0e-0d1f6a1b2c3d"_qs);
         QCOMPARE(row.title, u"https://example.org/a?b=1"_qs);
         QCOMPARE(row.status, u"已收下 · 这个来源尚未接入更新"_qs);
-        QCOMPARE(row.address, QString());
+        QCOMPARE(row.address(), QString());
     }
 
     void tellsASignalAndAHandInOfTheSameIdApart()

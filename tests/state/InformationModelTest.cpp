@@ -140,6 +140,17 @@ private Q_SLOTS:
         QCOMPARE(model->keptSignals().size(), 2);
     }
 
+    void searchLooksAtANoteAsItIsWritten()
+    {
+        const auto model = m_sample.make();
+        model->toggleKeep(u"a"_qs);
+        model->setSearch(u"rust"_qs);
+        QVERIFY(model->keptSignals().isEmpty());
+
+        model->updateNote(u"a"_qs, u"Rust 笔记"_qs);
+        QCOMPARE(model->keptSignals().size(), 1);
+    }
+
     void onlyAKnownDayOpens()
     {
         const auto model = m_sample.make();
