@@ -18,19 +18,6 @@
 #include <cmath>
 #include <utility>
 
-namespace {
-
-template <typename T, typename WorkOut>
-const T& cached(std::optional<T>& cache, WorkOut workOut)
-{
-    if (!cache) {
-        cache = workOut();
-    }
-    return *cache;
-}
-
-} // namespace
-
 InformationModel::InformationModel(Collaborators collaborators, InformationContent content,
                                    std::optional<InformationWorkspaceRepository> repository)
     : m_collaborators(std::move(collaborators)),
@@ -45,13 +32,15 @@ InformationModel::InformationModel(Collaborators collaborators, InformationConte
 
 const QList<InformationSignal>& InformationModel::visibleSignals() const
 {
-    return cached(m_caches.visibleSignals,
-                  [this] { return InformationProjection::today(signals(), workspace()); });
+    return DerivedReads::get(m_reads.visibleSignals, [this] {
+        return InformationProjection::today(signals(), workspace());
+    });
 }
 
 const QHash<QString, InformationSignal>& InformationModel::signalIndex() const
 {
-    return cached(m_caches.signalIndex, [this] { return indexById(retiredSignals() + signals()); });
+    return DerivedReads::get(m_reads.signalIndex,
+                             [this] { return indexById(retiredSignals() + signals()); });
 }
 
 std::optional<InformationSignal> InformationModel::signalById(const QString& id) const
@@ -63,25 +52,28 @@ std::optional<InformationSignal> InformationModel::signalById(const QString& id)
 
 const QList<SelectionDay>& InformationModel::archiveDays() const
 {
-    return cached(m_caches.archiveDays,
-                  [this] { return ArchiveDigest::daysNewestFirst(selectionDays()); });
+    return DerivedReads::get(m_reads.archiveDays,
+                             [this] { return ArchiveDigest::daysNewestFirst(selectionDays()); });
 }
 
 const QList<WeeklyDigest::Week>& InformationModel::weeklyWeeks() const
 {
-    return cached(m_caches.weeklyWeeks, [this] { return WeeklyDigest::weeks(selectionDays()); });
+    return DerivedReads::get(m_reads.weeklyWeeks,
+                             [this] { return WeeklyDigest::weeks(selectionDays()); });
 }
 
 bool InformationModel::isKept(const InformationSignal& signal) const
 {
-    return cached(m_caches.keptTargets, [this] { return m_threads.keptTargets(workspace()); })
+    return DerivedReads::get(m_reads.keptTargets,
+                             [this] { return m_threads.keptTargets(workspace()); })
         .contains(signal.followTarget.id);
 }
 
 const QList<InformationSignal>& InformationModel::allKeptSignals() const
 {
-    return cached(m_caches.allKeptSignals,
-                  [this] { return InformationProjection::kept(signals(), workspace()); });
+    return DerivedReads::get(m_reads.allKeptSignals, [this] {
+        return InformationProjection::kept(signals(), workspace());
+    });
 }
 
 qsizetype InformationModel::laneCount(InformationLane lane) const
@@ -126,7 +118,7 @@ QList<InformationSignal> InformationModel::keptSignals() const
     if (search().isEmpty()) {
         return allKeptSignals();
     }
-    const auto& texts = cached(m_caches.searchedTexts, [this] {
+    const auto& texts = DerivedReads::get(m_reads.searchedTexts, [this] {
         return m_threads.searchedTexts(allKeptSignals(), workspace());
     });
     return KeptThreads::found(search(), allKeptSignals(), texts);
@@ -302,7 +294,7 @@ QCoro::Task<> InformationModel::refreshPack()
     if (result.content) {
         m_content = *std::move(result.content);
         m_threads = KeptThreads(signals());
-        m_caches = {};
+        m_reads = {};
         Q_EMIT contentChanged();
     }
     Q_EMIT packSyncNoteChanged();
@@ -367,7 +359,7 @@ void InformationModel::giveReceipt(const QString& receipt)
 
 void InformationModel::announceWorkspace()
 {
-    m_caches = {};
+    m_reads = {};
     Q_EMIT workspaceChanged();
 }
 

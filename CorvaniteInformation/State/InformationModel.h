@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ContentRefresh.h"
+#include "DerivedReads.h"
 #include "InformationContent.h"
 #include "InformationFileManager.h"
 #include "InformationSignal.h"
@@ -15,10 +16,8 @@
 #include "WeeklyDigest.h"
 #include "WorkspaceJournal.h"
 
-#include <QHash>
 #include <QObject>
 #include <QObjectBindableProperty>
-#include <QSet>
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
@@ -204,18 +203,6 @@ Q_SIGNALS:
 private:
     using Text = std::optional<QString>;
 
-    /// What is worked out at the first read after the content or the workspace changed.
-    struct Caches
-    {
-        std::optional<QHash<QString, InformationSignal>> signalIndex;
-        std::optional<QList<InformationSignal>> visibleSignals;
-        std::optional<QList<SelectionDay>> archiveDays;
-        std::optional<QList<WeeklyDigest::Week>> weeklyWeeks;
-        std::optional<QSet<QString>> keptTargets;
-        std::optional<QList<InformationSignal>> allKeptSignals;
-        std::optional<QList<QString>> searchedTexts;
-    };
-
     /// Applies, announces, saves; on failure takes back, clears the receipt and says why.
     bool
     transact(const WorkspaceJournal::Change& change, const std::function<void()>& announce = [] {});
@@ -251,7 +238,7 @@ private:
     InformationContent m_content;
     KeptThreads m_threads;
     WorkspaceJournal m_journal;
-    mutable Caches m_caches;
+    mutable DerivedReads m_reads;
     std::optional<ContentRefresh::Outcome> m_refreshOutcome;
     bool m_updateProbeRan = false;
 
