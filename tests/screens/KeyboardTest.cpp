@@ -91,6 +91,39 @@ private Q_SLOTS:
         }
     }
 
+    // The keys went on to the button in the header.
+    void aPressOnAPanesGroundTakesTheKeyboardIntoIt_data()
+    {
+        QTest::addColumn<bool>("leftACard");
+
+        QTest::newRow("for the first time") << false;
+        QTest::newRow("which a card had the keyboard of") << true;
+    }
+
+    void aPressOnAPanesGroundTakesTheKeyboardIntoIt()
+    {
+        QFETCH(const bool, leftACard);
+        ScreenTour::Visit visit({.name = {}}, {1120, 560});
+        const auto& window = visit.window();
+        auto* const pane = window.find(u"今天先看 3 条"_qs, QAccessible::List);
+        if (leftACard) {
+            window.find(u"Title of a"_qs, QAccessible::ListItem)
+                ->forceActiveFocus(Qt::TabFocusReason);
+        }
+        window.find(u"添加信息"_qs, QAccessible::Button)->forceActiveFocus(Qt::TabFocusReason);
+
+        const auto corner = ScreenReader::place(pane).topLeft().toPoint();
+        QTest::mouseClick(window.window(), Qt::LeftButton, {}, corner + QPoint(8, 8));
+
+        for (const auto& key : {Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Space}) {
+            const auto before = pane->property("contentY").toReal();
+            window.pressKey(key);
+            QVERIFY(pane->property("contentY").toReal() != before);
+        }
+        window.pressKey(Qt::Key_Tab);
+        QVERIFY(ScreenReader::isWithin(pane, window.window()->activeFocusItem()));
+    }
+
 private:
     /// What the key leads to from where the focus is, until it has come round.
     QList<QQuickItem*> walk(const WorkbenchWindow& window, Qt::Key key)
