@@ -4,10 +4,15 @@
 #include "SiteDocuments.h"
 #include "Subject.h"
 
+#include <QPointer>
 #include <QSet>
 #include <QTest>
 
 #include <algorithm>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 
 namespace {
 
@@ -25,6 +30,23 @@ bool isForUse(QQuickItem* item)
            item->inherits("QQuickTextEdit");
 }
 
+/// What a screen reader was told last to have the focus.
+QPointer<QObject> told;
+
+void hear(QAccessibleEvent* event)
+{
+    if (event->type() == QAccessible::Focus) {
+        told = event->object();
+    }
+}
+
+/// Without a real screen Qt tells nothing by itself.
+void listen(bool listening)
+{
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listening);
+    QAccessible::installUpdateHandler(listening ? hear : nullptr);
+}
+
 } // namespace
 
 /// Everything that can be done by pointer can be done without one.
@@ -33,7 +55,13 @@ class KeyboardTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(u".?"_qs)); }
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u".?"_qs));
+        listen(true);
+    }
+
+    void cleanup() { listen(false); }
 
     void theTabKeyReachesEverything_data() { ScreenTour::addRows(); }
 
@@ -139,6 +167,9 @@ private:
             }
             stops.append(focused);
             if (isForUse(focused)) {
+                if (told != focused) {
+                    m_faults.append(u"not told: "_qs + ScreenReader::name(focused));
+                }
                 window.settle();
                 inspect(focused);
             }
