@@ -145,6 +145,24 @@ private Q_SLOTS:
         QCOMPARE(m_window->window()->activeFocusItem(), list);
     }
 
+    // An icon of a card was left on the header.
+    void whatIsScrolledAwayIsNotSeenOnTheFrame()
+    {
+        m_window->resize({1120, 560});
+        const auto frame = [this] {
+            const auto picture = m_window->window()->grabWindow();
+            return std::pair(picture.copy(1, 1, 1118, 62), picture.copy(1, 525, 1118, 34));
+        };
+        const auto before = frame();
+        auto* const list = m_window->find(u"今天先看 2 条"_qs, QAccessible::List);
+        for (int y = 0; y < 400; y += 25) {
+            list->setProperty("contentY", y);
+            m_window->resize({1100, 560});
+            m_window->resize({1120, 560});
+            QVERIFY2(frame() == before, qPrintable(QString::number(y)));
+        }
+    }
+
     void theKeyboardGoesOnAfterACardIsGone()
     {
         m_window->awaited(u"这类少看：产品雷达"_qs, QAccessible::Button)
