@@ -12,6 +12,7 @@
 #include "ScreenReaderStatus.h"
 #include "StemDarkening.h"
 #include "TerminationSignals.h"
+#include "TextLanguage.h"
 #include "WindowActivation.h"
 
 #include <QDateTime>
@@ -90,6 +91,7 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     introduce(version);
     chooseTextRendering(application.devicePixelRatio());
     StemDarkening::switchOff();
+    TextLanguage::setChinese();
 
     AppearancePortal appearance(QDBusConnection::sessionBus());
     QObject::connect(&appearance, &AppearancePortal::colorSchemeChanged, [](auto colorScheme) {
