@@ -34,6 +34,12 @@ ListView {
         items: list.contentItem
     }
 
+    // A press on the ground takes the keyboard into the pane; what has the focus there keeps it.
+    TapHandler {
+        onPressedChanged: if (pressed && !list.activeFocus)
+            list.contentItem.forceActiveFocus(Qt.MouseFocusReason)
+    }
+
     PaneScroller {
         id: scroller
 

@@ -13,6 +13,7 @@
 #include "ScreenReaderStatus.h"
 #include "StemDarkening.h"
 #include "TerminationSignals.h"
+#include "TextLanguage.h"
 #include "WindowActivation.h"
 
 #include <QDateTime>
@@ -92,6 +93,7 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     introduce(version);
     chooseTextRendering(application.devicePixelRatio());
     StemDarkening::switchOff();
+    TextLanguage::setChinese();
 
     AppearancePortal appearance(QDBusConnection::sessionBus());
     QObject::connect(&appearance, &AppearancePortal::colorSchemeChanged, [](auto colorScheme) {

@@ -38,11 +38,14 @@ EMPTY_WORKSPACE = {
 class DesktopTest(unittest.TestCase):
     @contextmanager
     def world(
-        self, scheme: str | None = "light", screen: tuple[int, int] = (1920, 1200)
+        self,
+        scheme: str | None = "light",
+        screen: tuple[int, int] = (1920, 1200),
+        screen_reader: bool = True,
     ) -> Iterator[World]:
         """A world for this test. A failure leaves pictures, trees and messages behind; a program
         that prints a message, as Qt does for every warning, is a failure."""
-        with World(scheme, screen) as world:
+        with World(scheme, screen, screen_reader) as world:
             try:
                 yield world
                 for program in world.programs():

@@ -96,6 +96,16 @@ class World:
         """Starts what stands beside the program on a desktop, with these variables more."""
         self._run(name, command, environment=self.environment | variables)
 
+    def say_of_screen_reader(self, there: bool) -> None:
+        """Has the desktop say whether a screen reader is there."""
+        self._ask_accessibility(
+            "org.freedesktop.DBus.Properties",
+            "Set",
+            GLib.Variant(
+                "(ssv)", ("org.a11y.Status", "ScreenReaderEnabled", GLib.Variant("b", there))
+            ),
+        )
+
     def wait_for_service(self, name: str) -> None:
         """Waits until somebody has that name on the session bus."""
 
@@ -207,12 +217,7 @@ class World:
         self.wait_for_service("org.a11y.Bus")
         address = self._ask_accessibility("org.a11y.Bus", "GetAddress", None)
         self.accessibility = AccessibilityBus(address.unpack()[0])
-        enabled = GLib.Variant("b", self._screen_reader)
-        self._ask_accessibility(
-            "org.freedesktop.DBus.Properties",
-            "Set",
-            GLib.Variant("(ssv)", ("org.a11y.Status", "ScreenReaderEnabled", enabled)),
-        )
+        self.say_of_screen_reader(self._screen_reader)
 
     def _ask_accessibility(self, interface: str, method: str, arguments) -> GLib.Variant:
         return self._session_bus.call_sync(

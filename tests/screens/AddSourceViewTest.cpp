@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "Composition.h"
 #include "ScreenListener.h"
 #include "ScreenTour.h"
 #include "Subject.h"
@@ -100,6 +101,17 @@ private Q_SLOTS:
                 .center()
                 .toPoint());
         QVERIFY(field()->hasActiveFocus());
+    }
+
+    void aPressEndsACompositionAndDropsIt()
+    {
+        const Composition composition(field(), u"paiban"_qs);
+        QVERIFY(field()->property("inputMethodComposing").toBool());
+        ScreenReader::click(window().find(u"交给 Corvanite"_qs, QAccessible::Button));
+        QVERIFY(!field()->property("inputMethodComposing").toBool());
+        QCOMPARE(model().intakeErrorMessage(),
+                 WorkbenchTexts::intakeMessage(InformationIntakeFailure::Empty));
+        QCOMPARE(field()->property("text").toString(), QString());
     }
 
     void cancellingHandsNothingIn()

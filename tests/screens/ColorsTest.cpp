@@ -89,6 +89,19 @@ private Q_SLOTS:
         }
     }
 
+    void theDotsOfACardAreFainterThanItsText()
+    {
+        visit(u"today"_qs);
+        auto* const card = m_visit->window().find(u"Title of a"_qs, QAccessible::ListItem);
+        const auto* const dot = ScreenReader::findIf(card, [](QQuickItem* item) {
+            return item->inherits("QQuickRectangle") && item->size() == QSizeF(3, 3);
+        });
+        QVERIFY(dot);
+        const auto middle = ScreenReader::place(dot).topLeft().toPoint() + QPoint(1, 1);
+        const auto seen = m_visit->window().window()->grabWindow().pixelColor(middle);
+        QVERIFY2(std::abs(seen.red() - 0xA4) <= 3, qPrintable(seen.name()));
+    }
+
 private:
     static QColor over(const QColor& ground, const QColor& color, double opacity)
     {

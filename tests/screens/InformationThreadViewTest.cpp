@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Browser.h"
+#include "Composition.h"
 #include "ScreenTour.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
@@ -108,6 +109,17 @@ private Q_SLOTS:
             window().window(), Qt::LeftButton, {},
             ScreenReader::place(window().find(u"关闭"_qs, QAccessible::Button)).center().toPoint());
         QVERIFY(note()->hasActiveFocus());
+    }
+
+    // Its raw letters were stored.
+    void closingByPointerDropsAComposition()
+    {
+        openKept();
+        window().type("x");
+        const Composition composition(note(), u"paiban"_qs);
+        ScreenReader::click(window().find(u"关闭"_qs, QAccessible::Button));
+        QTRY_VERIFY(!window().find(u"Title of a"_qs, QAccessible::Dialog));
+        QCOMPARE(stored(), u"x"_qs);
     }
 
     void itsLinksOpenWhatCanBeOpened()

@@ -3,6 +3,7 @@
 #include "Browser.h"
 #include "FirstSize.h"
 #include "SampleModel.h"
+#include "SchemePalette.h"
 #include "ScreenListener.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
@@ -143,6 +144,29 @@ private Q_SLOTS:
         QVERIFY(list->isVisible());
         QCOMPARE(list->property("contentY").toReal(), position);
         QCOMPARE(m_window->window()->activeFocusItem(), list);
+    }
+
+    // An icon of a card was left on the header.
+    void whatIsScrolledAwayIsNotSeenOnTheFrame()
+    {
+        using Scheme = AppearancePortal::ColorScheme;
+        m_window->resize({1120, 560});
+        // Between two colour schemes everything is drawn anew at once.
+        const auto frame = [this] {
+            QImage drawn;
+            for (const auto scheme : {Scheme::Dark, Scheme::Light}) {
+                QGuiApplication::setPalette(schemePalette(scheme));
+                drawn = m_window->window()->grabWindow();
+            }
+            return drawn.copy(1, 1, 1118, 62);
+        };
+        const auto before = frame();
+        auto* const list = m_window->find(u"今天先看 2 条"_qs, QAccessible::List);
+        for (int y = 200; y < 700; y += 20) {
+            list->setProperty("contentY", y);
+            QVERIFY2(frame() == before, qPrintable(QString::number(y)));
+        }
+        QGuiApplication::setPalette({});
     }
 
     void theKeyboardGoesOnAfterACardIsGone()

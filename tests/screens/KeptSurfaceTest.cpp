@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Browser.h"
+#include "ScreenListener.h"
 #include "ScreenTour.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
@@ -48,6 +49,29 @@ private Q_SLOTS:
         window().pressKey(Qt::Key_Escape);
         QCOMPARE(model().search(), QString());
         QVERIFY(window().awaited(u"Title of a"_qs, QAccessible::ListItem));
+    }
+
+    void aSearchWithoutAMatchIsReadOut_data()
+    {
+        QTest::addColumn<QStringList>("keptIds");
+
+        QTest::newRow("among what is kept") << QStringList{u"a"_qs};
+        QTest::newRow("where nothing is kept") << QStringList();
+    }
+
+    void aSearchWithoutAMatchIsReadOut()
+    {
+        QFETCH(const QStringList, keptIds);
+        show(keptIds);
+        ScreenListener listener(window().content());
+        window().find(u"搜索已收下"_qs, QAccessible::EditableText)->forceActiveFocus();
+
+        for (int i = 0; i < 2; ++i) {
+            window().type("xyz");
+            QCOMPARE(listener.announced(), QStringList(u"没有匹配的内容"_qs));
+            window().pressKey(Qt::Key_Escape);
+            QCOMPARE(listener.announced(), QStringList());
+        }
     }
 
     void removingGivesTheFocusToTheNextRow()

@@ -4,10 +4,15 @@
 #include "SiteDocuments.h"
 #include "Subject.h"
 
+#include <QPointer>
 #include <QSet>
 #include <QTest>
 
 #include <algorithm>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 
 namespace {
 
@@ -25,6 +30,23 @@ bool isForUse(QQuickItem* item)
            item->inherits("QQuickTextEdit");
 }
 
+/// What a screen reader was told last to have the focus.
+QPointer<QObject> told;
+
+void hear(QAccessibleEvent* event)
+{
+    if (event->type() == QAccessible::Focus) {
+        told = event->object();
+    }
+}
+
+/// Without a real screen Qt tells nothing by itself.
+void listen(bool listening)
+{
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listening);
+    QAccessible::installUpdateHandler(listening ? hear : nullptr);
+}
+
 } // namespace
 
 /// Everything that can be done by pointer can be done without one.
@@ -33,7 +55,13 @@ class KeyboardTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(u".?"_qs)); }
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(u".?"_qs));
+        listen(true);
+    }
+
+    void cleanup() { listen(false); }
 
     void theTabKeyReachesEverything_data() { ScreenTour::addRows(); }
 
@@ -91,6 +119,39 @@ private Q_SLOTS:
         }
     }
 
+    // The keys went on to the button in the header.
+    void aPressOnAPanesGroundTakesTheKeyboardIntoIt_data()
+    {
+        QTest::addColumn<bool>("leftACard");
+
+        QTest::newRow("for the first time") << false;
+        QTest::newRow("which a card had the keyboard of") << true;
+    }
+
+    void aPressOnAPanesGroundTakesTheKeyboardIntoIt()
+    {
+        QFETCH(const bool, leftACard);
+        ScreenTour::Visit visit({.name = {}}, {1120, 560});
+        const auto& window = visit.window();
+        auto* const pane = window.find(u"今天先看 3 条"_qs, QAccessible::List);
+        if (leftACard) {
+            window.find(u"Title of a"_qs, QAccessible::ListItem)
+                ->forceActiveFocus(Qt::TabFocusReason);
+        }
+        window.find(u"添加信息"_qs, QAccessible::Button)->forceActiveFocus(Qt::TabFocusReason);
+
+        const auto corner = ScreenReader::place(pane).topLeft().toPoint();
+        QTest::mouseClick(window.window(), Qt::LeftButton, {}, corner + QPoint(8, 8));
+
+        for (const auto& key : {Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Space}) {
+            const auto before = pane->property("contentY").toReal();
+            window.pressKey(key);
+            QVERIFY(pane->property("contentY").toReal() != before);
+        }
+        window.pressKey(Qt::Key_Tab);
+        QVERIFY(ScreenReader::isWithin(pane, window.window()->activeFocusItem()));
+    }
+
 private:
     /// What the key leads to from where the focus is, until it has come round.
     QList<QQuickItem*> walk(const WorkbenchWindow& window, Qt::Key key)
@@ -106,6 +167,9 @@ private:
             }
             stops.append(focused);
             if (isForUse(focused)) {
+                if (told != focused) {
+                    m_faults.append(u"not told: "_qs + ScreenReader::name(focused));
+                }
                 window.settle();
                 inspect(focused);
             }

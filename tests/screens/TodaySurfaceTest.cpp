@@ -62,6 +62,27 @@ private Q_SLOTS:
         QCOMPARE(list->property("contentY").toReal(), top);
     }
 
+    // Alt+Space scrolled the page.
+    void aKeyWithAModifierTurnsNoPage_data()
+    {
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+
+        QTest::newRow("Alt") << Qt::KeyboardModifiers(Qt::AltModifier);
+        QTest::newRow("Ctrl") << Qt::KeyboardModifiers(Qt::ControlModifier);
+        QTest::newRow("Meta") << Qt::KeyboardModifiers(Qt::MetaModifier);
+    }
+
+    void aKeyWithAModifierTurnsNoPage()
+    {
+        QFETCH(const Qt::KeyboardModifiers, modifiers);
+        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::List);
+        const auto top = list->property("contentY").toReal();
+        for (const auto& key : {Qt::Key_Space, Qt::Key_PageDown, Qt::Key_Down, Qt::Key_End}) {
+            window().pressKey(key, modifiers);
+            QCOMPARE(list->property("contentY").toReal(), top);
+        }
+    }
+
     void theKeysWalkTheList()
     {
         focus(u"打开脉络：Title of a"_qs, QAccessible::Button);

@@ -29,7 +29,7 @@ ROOMS = {
     "CorvaniteInformation/Site": {"CorvaniteInformationState", "Qt6::Network", "QCoro6::Network"},
     "CorvaniteInformation/Desktop": {
         "Qt6::DBus", "Qt6::Gui", "Qt6::GuiPrivate",
-        "Fontconfig::Fontconfig", "Freetype::Freetype"},
+        "Fontconfig::Fontconfig", "Freetype::Freetype", "harfbuzz::harfbuzz"},
     "CorvaniteInformation/Screens/Workbench":
         {f"CorvaniteInformation{screen}" for screen in SCREENS} | {"Qt6::Qml"},
     "CorvaniteInformation/Program": {
@@ -44,7 +44,7 @@ ROOMS = {
 # A library that a room keeps to itself.
 PRIVATE = {
     "Fontconfig::Fontconfig", "Freetype::Freetype", "ICU::uc", "QCoro6::Network",
-    "Qt6::GuiPrivate", "simdjson::simdjson"}
+    "Qt6::GuiPrivate", "harfbuzz::harfbuzz", "simdjson::simdjson"}
 
 # What a library brings along that may be used too. Qt Qml would bring Qt Network.
 BRINGS = {
@@ -60,6 +60,7 @@ OTHER_HEADERS = {
     "QCoroTask": "QCoro6::Core",
     "fontconfig/fontconfig.h": "Fontconfig::Fontconfig",
     "freetype/ftmodapi.h": "Freetype::Freetype",
+    "hb.h": "harfbuzz::harfbuzz",
     "private/qfontengine_ft_p.h": "Qt6::GuiPrivate",
     "simdjson.h": "simdjson::simdjson",
     "unicode/uchar.h": "ICU::uc",

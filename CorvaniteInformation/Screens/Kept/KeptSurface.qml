@@ -32,6 +32,21 @@ Surface {
         shown: surface.visible
     }
 
+    // Once the page has followed the search.
+    Connections {
+        target: page
+
+        function onTextsChanged() {
+            noMatch.text = page.empty && surface.workbench.search !== "" ? page.emptyTitle : "";
+        }
+    }
+
+    Announcement {
+        id: noMatch
+
+        text: ""
+    }
+
     PageList {
         id: list
 

@@ -24,8 +24,6 @@ Sheet {
     title: threadPage.title
     visible: sheet.workbench.hasOpenThread
 
-    // A composition that is not finished is no part of the note.
-    onAboutToHide: InputMethod.reset()
     onClosed: sheet.workbench.closeThread()
     onOpened: closeButton.forceActiveFocus(openedByKeyboard ? Qt.TabFocusReason : Qt.PopupFocusReason)
 
@@ -85,7 +83,12 @@ Sheet {
                 y: 24
                 activeFocusOnPress: false
                 text: "关闭"
-                onClicked: sheet.close()
+                onClicked: {
+                    // A composition that is not finished is no part of the note. The sheet's own
+                    // signals come after the focus has left it.
+                    InputMethod.reset();
+                    sheet.close();
+                }
             }
 
             Hairline {

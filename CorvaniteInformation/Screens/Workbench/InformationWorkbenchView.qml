@@ -126,6 +126,9 @@ Window {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: footer.top
+            // Drawn before the frame: Qt 6.4 draws an icon that is scrolled out of sight as if nothing
+            // clipped it.
+            z: -1
             focus: true
             workbench: window.workbench
 
