@@ -17,6 +17,7 @@ function(add_room target)
     endif()
     target_include_directories(${target} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${target} PUBLIC ${room_LINKS} PRIVATE ${room_PRIVATE_LINKS} project_warnings)
+    target_precompile_headers(${target} REUSE_FROM object_headers)
     set_property(GLOBAL APPEND PROPERTY CORVANITE_ROOMS ${target})
 endfunction()
 
@@ -43,7 +44,10 @@ macro(add_qml_room target)
             add_dependencies(${target} ${link}_qmltyperegistration)
         endif()
     endforeach()
-    build_qml_code_together(${target})
+    if(room_QML_FILES)
+        build_qml_code_together(${target})
+    endif()
+    ease_code_that_qt_writes(${target})
     set_property(GLOBAL APPEND PROPERTY CORVANITE_QML_ROOMS ${target})
 endmacro()
 
@@ -84,4 +88,31 @@ function(build_qml_code_together target)
         UNITY_BUILD ON
         UNITY_BUILD_MODE GROUP
         UNITY_BUILD_CODE_BEFORE_INCLUDE "#pragma GCC diagnostic ignored \"-Wshadow\"")
+    # It is run once a change and takes the compiler a quarter longer with more.
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O1>)
 endfunction()
+
+# Of what Qt writes, the registration of types runs once and takes the compiler long; the parts that
+# hold the resources have nothing that moc would read.
+function(ease_code_that_qt_writes target)
+    string(TOLOWER ${target} name)
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_qmltyperegistrations.cpp
+        PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-O1>)
+    foreach(part IN ITEMS ${target}_qmlcache ${target}_resources_1 ${target}_resources_2)
+        if(TARGET ${part})
+            set_target_properties(${part} PROPERTIES AUTOMOC OFF)
+        endif()
+    endforeach()
+    if(TARGET ${target}_qmlcache)
+        target_precompile_headers(${target}_qmlcache REUSE_FROM object_headers)
+    endif()
+endfunction()
+
+# Every QML file goes through our own caller of Qt's compiler, which says why.
+get_target_property(qmlcachegen Qt6::qmlcachegen LOCATION)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/qmlcachegen.in ${CMAKE_BINARY_DIR}/qmlcachegen @ONLY)
+get_target_property(configurations Qt6::qmlcachegen IMPORTED_CONFIGURATIONS)
+foreach(configuration IN LISTS configurations)
+    set_target_properties(Qt6::qmlcachegen PROPERTIES
+        IMPORTED_LOCATION_${configuration} ${CMAKE_BINARY_DIR}/qmlcachegen)
+endforeach()

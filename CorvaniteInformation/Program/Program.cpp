@@ -6,6 +6,7 @@
 #include "CommandLine.h"
 #include "ExportKept.h"
 #include "FirstSize.h"
+#include "FontConfiguration.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
@@ -82,6 +83,7 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     if (const auto* const keptExport = std::get_if<CommandLine::Export>(&request)) {
         return tell(exportKept(*keptExport, environment));
     }
+    const auto fontConfiguration = FontConfiguration::readAhead();
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     // Else a screen reader that starts later finds nothing: Qt 6.4 looks for one at the start
     // alone.

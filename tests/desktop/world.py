@@ -173,25 +173,29 @@ class World:
         self._processes.append(process)
         return process
 
+    def _run_until_told(self, name: str, command: list[str]) -> str:
+        """Starts what writes one line to the descriptor named {descriptor} in the command once it
+        can be reached, and returns that line: a socket's file stands before anyone listens."""
+        reading, writing = os.pipe()
+        with os.fdopen(reading) as told:
+            filled = [word.format(descriptor=writing) for word in command]
+            self._run(name, filled, descriptors=[writing])
+            os.close(writing)
+            if not select.select([told], [], [], PATIENCE)[0]:
+                raise TimeoutError(f"not within {PATIENCE:g} s: {name}")
+            return told.readline().strip()
+
     def _start_screen(self) -> None:
         width, height = self._screen
-        reading, writing = os.pipe()
-        with os.fdopen(reading) as number:
-            geometry = f"{width}x{height}x24"
-            command = ["Xvfb", "-displayfd", str(writing), "-screen", "0", geometry]
-            self._run("screen", [*command, "-nolisten", "tcp", "-noreset"], descriptors=[writing])
-            os.close(writing)
-            if not select.select([number], [], [], PATIENCE)[0]:
-                raise TimeoutError("the screen does not start")
-            self.environment["DISPLAY"] = f":{number.readline().strip()}"
+        command = ["Xvfb", "-displayfd", "{descriptor}", "-screen", "0", f"{width}x{height}x24"]
+        number = self._run_until_told("screen", [*command, "-nolisten", "tcp", "-noreset"])
+        self.environment["DISPLAY"] = f":{number}"
 
     def _start_session_bus(self) -> None:
-        socket = self.folder / "bus"
         configuration = self.folder / "bus.conf"
-        configuration.write_text(BUS_CONFIGURATION.format(socket=socket))
-        self._run("bus", ["dbus-daemon", f"--config-file={configuration}", "--nofork"])
-        wait_until(socket.exists, "the session bus")
-        address = f"unix:path={socket}"
+        configuration.write_text(BUS_CONFIGURATION.format(socket=self.folder / "bus"))
+        command = ["dbus-daemon", f"--config-file={configuration}", "--nofork"]
+        address = self._run_until_told("bus", [*command, "--print-address={descriptor}"])
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         flags = Gio.DBusConnectionFlags
         self._session_bus = Gio.DBusConnection.new_for_address_sync(

@@ -28,7 +28,8 @@ ROOMS = {
     "CorvaniteInformation/Controls": {CORE, "Qt6::Quick", "Qt6::Qml"},
     "CorvaniteInformation/Site": {"CorvaniteInformationState", "Qt6::Network", "QCoro6::Network"},
     "CorvaniteInformation/Desktop": {
-        "Qt6::DBus", "Qt6::Gui", "Qt6::GuiPrivate", "Freetype::Freetype"},
+        "Qt6::DBus", "Qt6::Gui", "Qt6::GuiPrivate",
+        "Fontconfig::Fontconfig", "Freetype::Freetype"},
     "CorvaniteInformation/Screens/Workbench":
         {f"CorvaniteInformation{screen}" for screen in SCREENS} | {"Qt6::Qml"},
     "CorvaniteInformation/Program": {
@@ -42,7 +43,8 @@ ROOMS = {
 
 # A library that a room keeps to itself.
 PRIVATE = {
-    "Freetype::Freetype", "ICU::uc", "QCoro6::Network", "Qt6::GuiPrivate", "simdjson::simdjson"}
+    "Fontconfig::Fontconfig", "Freetype::Freetype", "ICU::uc", "QCoro6::Network",
+    "Qt6::GuiPrivate", "simdjson::simdjson"}
 
 # What a library brings along that may be used too. Qt Qml would bring Qt Network.
 BRINGS = {
@@ -56,6 +58,7 @@ BRINGS = {
 OTHER_HEADERS = {
     "QCoroNetworkReply": "QCoro6::Network",
     "QCoroTask": "QCoro6::Core",
+    "fontconfig/fontconfig.h": "Fontconfig::Fontconfig",
     "freetype/ftmodapi.h": "Freetype::Freetype",
     "private/qfontengine_ft_p.h": "Qt6::GuiPrivate",
     "simdjson.h": "simdjson::simdjson",
