@@ -2,6 +2,8 @@
 
 #include "CommandLine.h"
 
+#include "TerminalText.h"
+
 #include <QLatin1StringView>
 
 #include <algorithm>
@@ -41,7 +43,7 @@ std::expected<CommandLine, QString> CommandLine::parse(const QStringList& argume
     }
     const auto form = std::ranges::find(commandForms, arguments.front(), &CommandForm::name);
     if (form == commandForms.end()) {
-        return std::unexpected(u"不认得“%1”"_qs.arg(arguments.front()));
+        return std::unexpected(u"不认得“%1”"_qs.arg(TerminalText::of(arguments.front())));
     }
     CommandLine line{.command = form->command, .paths = {}};
     bool onlyPaths = false;
@@ -53,7 +55,8 @@ std::expected<CommandLine, QString> CommandLine::parse(const QStringList& argume
         } else if (argument == strictOption && form->command == Command::Check) {
             line.isStrict = true;
         } else {
-            return std::unexpected(u"%1 不认得“%2”"_qs.arg(QString(form->name), argument));
+            return std::unexpected(
+                u"%1 不认得“%2”"_qs.arg(QString(form->name), TerminalText::of(argument)));
         }
     }
     if (line.paths.size() < form->fewestPaths || line.paths.size() > form->mostPaths) {

@@ -80,6 +80,7 @@ Q_SIGNALS:
 protected:
     void follow(const InformationModel& workbench) override;
     void show(const InformationModel& workbench) override;
+    bool tellsTime() const override { return true; }
 
 private:
     struct Texts

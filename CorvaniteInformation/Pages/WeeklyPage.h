@@ -30,6 +30,7 @@ Q_SIGNALS:
 protected:
     void follow(const InformationModel& workbench) override;
     void show(const InformationModel& workbench) override;
+    bool tellsTime() const override { return true; }
 
 private:
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(WeeklyPage, bool, m_empty, true, &WeeklyPage::emptyChanged)

@@ -25,7 +25,7 @@ void WorkbenchPage::setShown(bool shown)
     }
     m_shown = shown;
     Q_EMIT shownChanged();
-    if (m_stale) {
+    if (m_shown && (m_stale || tellsTime())) {
         refresh();
     }
 }

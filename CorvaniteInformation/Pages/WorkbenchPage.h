@@ -18,7 +18,7 @@ class WorkbenchPage : public QObject
     Q_PROPERTY(InformationModel* workbench READ workbench WRITE setWorkbench NOTIFY workbenchChanged
                    REQUIRED FINAL)
     /// Whether anyone sees the page. While nobody does, nothing is worked out; what was missed is
-    /// made up for when it shows again.
+    /// made up for when it shows again, and so is the time that has passed.
     Q_PROPERTY(bool shown READ shown WRITE setShown NOTIFY shownChanged FINAL)
 
 public:
@@ -41,6 +41,8 @@ protected:
     /// Connects `refresh` to the changes that the page shows.
     virtual void follow(const InformationModel& workbench) = 0;
     virtual void show(const InformationModel& workbench) = 0;
+    /// Whether the same model is shown in other words at another time.
+    virtual bool tellsTime() const { return false; }
 
 private:
     QPointer<InformationModel> m_workbench;

@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 
 #include "KeptExport.h"
+#include "PrintableText.h"
 
 #include <cstdlib>
 
@@ -28,12 +29,14 @@ QString help()
 
 CommandLine::Answer told(const QString& reason, int exitCode)
 {
-    return {u"corvanite-information：%1\n"_qs.arg(reason), exitCode};
+    return {u"corvanite-information：%1\n"_qs.arg(PrintableText::oneLine(reason)), exitCode};
 }
 
 CommandLine::Answer refusal(const QString& reason)
 {
-    return told(reason + u"\n用 --help 查看用法。"_qs, wrongUse);
+    auto answer = told(reason, wrongUse);
+    answer.text += u"用 --help 查看用法。\n"_qs;
+    return answer;
 }
 
 // A session manager starts the programs of the last session again with an option of its own.

@@ -1,18 +1,35 @@
 # SPDX-License-Identifier: Apache-2.0
 """A product site on loopback that a test fills and reads the log of."""
 
+import os
+import ssl
 import threading
 from contextlib import suppress
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
+from pathlib import Path
+
+from commands import answer_of
 
 PATIENCE = 20
 """For how many seconds a held answer waits."""
 
 
-class Site:
-    """Use it in a `with`. Answers with the documents given, by path; any other is not found."""
+def new_certificate(folder: Path) -> Path:
+    """A file in the folder with a certificate for a site on loopback, which is its own authority,
+    and its key."""
+    file = folder / "certificate.pem"
+    request = "req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -days 2"
+    name = "-subj /CN=127.0.0.1 -addext subjectAltName=IP:127.0.0.1"
+    command = ["openssl", *request.split(), *name.split(), "-keyout", str(file), "-out", str(file)]
+    answer_of(command, os.environ)
+    return file
 
-    def __init__(self, documents: dict[str, bytes]):
+
+class Site:
+    """Use it in a `with`. Answers with the documents given, by path; any other is not found. With
+    a certificate it is read over TLS."""
+
+    def __init__(self, documents: dict[str, bytes], certificate: Path | None = None):
         self.documents = dict(documents)
         self.requests: list[tuple[str, dict[str, str]]] = []
         """Path and headers of every request, in order."""
@@ -46,11 +63,19 @@ class Site:
                 pass
 
         self._server = ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+        self._scheme = "https" if certificate else "http"
+        if certificate:
+            tls = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+            tls.load_cert_chain(certificate)
+            # The first read shakes hands: one that accepts is not to wait for a silent client.
+            self._server.socket = tls.wrap_socket(
+                self._server.socket, server_side=True, do_handshake_on_connect=False
+            )
         self._thread = threading.Thread(target=self._server.serve_forever, daemon=True)
 
     @property
     def origin(self) -> str:
-        return f"http://127.0.0.1:{self._server.server_port}"
+        return f"{self._scheme}://127.0.0.1:{self._server.server_port}"
 
     def paths(self) -> list[str]:
         return [path for path, _ in self.requests]

@@ -2,12 +2,11 @@
 # SPDX-License-Identifier: Apache-2.0
 """What a whole session leaves on the network and on the disk."""
 
-import re
+import os
 import unittest
-from pathlib import Path
 
 from desktop_test import DesktopTest, workspace_when
-from loopback_site import Site
+from loopback_site import Site, new_certificate
 from polling import wait_until
 from program import Program
 from test_sync import (
@@ -20,47 +19,74 @@ from test_sync import (
     newer_pack,
     version_document,
 )
-from tracing import can_trace, traced, whole
+from tracing import RECORDED, addressed, can_trace, changes, started, traced, whole
 from world import World
 
 SURFACES = ["已收下", "周报", "往期", "信源", "今天"]
 
-PEER = re.compile(
-    r"\b(?:connect|sendto|sendmsg|sendmmsg)\(.*?\{sa_family=(?!AF_UNIX|AF_NETLINK)([^}]*)\}"
-)
-WRITTEN = re.compile(r'\bopenat\((?:AT_FDCWD|\d+)(?:<(.*?)>)?, "([^"]*)", [A-Z_|]*O_(?:WRONLY|RDWR)')
+DATA = "WORLD/home/.local/share/Corvanite/Information"
+TEMPORARY = f"{DATA}/.corvanite-*.tmp"
+
+CHANGES = {
+    # Of the platform, which makes sure that its folder is there.
+    "mkdir WORLD/run",
+    # The reader's.
+    "mkdir WORLD/home/.local/share/Corvanite",
+    f"mkdir {DATA}",
+    f"openat {DATA}/.lock",
+    f"openat {TEMPORARY}",
+    f"renameat {TEMPORARY} {DATA}/information-pack.json",
+    f"renameat {TEMPORARY} {DATA}/retired-signals.json",
+    f"renameat {TEMPORARY} {DATA}/workspace-v1.json",
+    # Of the browser, which notes the address.
+    "openat WORLD/opened",
+}
+"""Every call of a session that changes what is on a disk, and every name that it gives."""
+
+STARTED = {str(LOOPBACK_PROGRAM), "WORLD/commands/xdg-open"}
+
+BOUND = {f'bind AF_UNIX, sun_path=@"corvanite-information-{os.getuid()}-*"'}
+"""Where a later start finds this one."""
+
+PLATFORM = {
+    'connect AF_UNIX, sun_path=@"/tmp/.X11-unix/X*"',
+    'connect AF_UNIX, sun_path="WORLD/bus"',
+    'connect AF_UNIX, sun_path="WORLD/run/at-spi/bus_*"',
+}
+"""The screen, the session's bus and the accessibility bus."""
 
 
-def peers(trace: str) -> set[str]:
-    """The addresses outside this machine's own sockets to which something was sent."""
-    return {match[1] for match in PEER.finditer(trace)}
-
-
-def written(trace: str) -> set[Path]:
-    """The files opened for writing."""
-    return {Path(match[1] or "", match[2]) for match in WRITTEN.finditer(trace)}
+def of_site(site: Site) -> str:
+    port = site.origin.rpartition(":")[2]
+    return f'connect AF_INET, sin_port=htons({port}), sin_addr=inet_addr("127.0.0.1")'
 
 
 class ConnectionsTest(DesktopTest):
-    def test_a_session_reads_three_documents_of_the_site_and_nothing_else(self):
+    def test_a_session_over_tls_reads_three_documents_of_the_site_and_nothing_else(self):
         documents = {
             VERSION_PATH: version_document(),
             PACK_PATH: newer_pack(),
             RETIRED_PATH: b'{"signals": []}',
         }
-        with Site(documents) as site, self.world() as world:
-            traceable = can_trace(world)
-            start, trace = traced(LOOPBACK_PROGRAM, world, "network,openat")
-            program = world.start(start if traceable else LOOPBACK_PROGRAM, site=site.origin)
-            self.go_through(program, world)
-            self.assertEqual(0, program.close())
+        with self.world() as world:
+            certificate = new_certificate(world.folder)
+            world.environment["LOOPBACK_AUTHORITY"] = str(certificate)
+            with Site(documents, certificate) as site:
+                self.check_session(site, world)
 
-            requests = [f"GET {path} HTTP/1.1" for path in (VERSION_PATH, PACK_PATH, RETIRED_PATH)]
-            self.assertEqual(requests, site.request_lines)
-            if not traceable:
-                print("skipped, as no process can be traced here: other connections, files written")
-                return
-            self.check(whole(trace, program), site, world)
+    def check_session(self, site: Site, world: World) -> None:
+        traceable = can_trace(world)
+        start, trace = traced(LOOPBACK_PROGRAM, world, RECORDED)
+        program = world.start(start if traceable else LOOPBACK_PROGRAM, site=site.origin)
+        self.go_through(program, world)
+        self.assertEqual(0, program.close())
+
+        requests = [f"GET {path} HTTP/1.1" for path in (VERSION_PATH, PACK_PATH, RETIRED_PATH)]
+        self.assertEqual(requests, site.request_lines)
+        if not traceable:
+            print("skipped, as no process can be traced here: other connections, files, programs")
+            return
+        self.check(whole(trace, program), site, world)
 
     def go_through(self, program: Program, world: World) -> None:
         program.wait_for("新版本 1.3.0 已发布")
@@ -78,17 +104,9 @@ class ConnectionsTest(DesktopTest):
         wait_until(world.opened_addresses, "the browser is asked")
 
     def check(self, trace: str, site: Site, world: World) -> None:
-        port = site.origin.rpartition(":")[2]
-        address = f'AF_INET, sin_port=htons({port}), sin_addr=inet_addr("127.0.0.1")'
-        self.assertEqual({address}, peers(trace))
-
-        data = world.data_home / "Corvanite/Information"
-        files = written(trace)
-        self.assertIn(data / ".lock", files)
-        platform = (world.home / ".cache", Path("/dev"))
-        for file in files - {world.opened_record}:
-            own = file.parent == data
-            self.assertTrue(own or any(file.is_relative_to(folder) for folder in platform), file)
+        self.assertEqual(CHANGES, changes(trace, world))
+        self.assertEqual(BOUND | PLATFORM | {of_site(site)}, addressed(trace, world))
+        self.assertEqual(STARTED, started(trace, world))
 
 
 if __name__ == "__main__":

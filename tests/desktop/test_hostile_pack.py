@@ -9,7 +9,7 @@ from pathlib import Path
 
 from desktop_test import PROGRAM, SEED, DesktopTest
 from program import Program
-from tracing import can_trace, traced, whole
+from tracing import can_trace, normalised, traced, whole
 from world import World
 
 SURFACES = ["已收下", "周报", "往期", "信源", "今天"]
@@ -38,8 +38,6 @@ ADDRESSES = [
 OPENED = re.compile(r'\b(?:open|openat|creat|execve)\((?:[^"<]*(?:<([^>]*)>)?, )?"((?:[^"\\]|\\.)*)"')
 CONNECTED = re.compile(r"\b(?:connect|sendto|bind)\(\d+<([A-Z]+|socket)[^>]*>.*?(\{sa_family=[^}]*\})")
 
-# Process numbers, the screen's number, and the names of temporary files.
-CHANGING = re.compile(r"(/proc/|X11-unix/X|WORLD/run/\.|/\.corvanite-|@.corvanite-information-\d+-)\w+")
 # Asked for by the C library whenever it sees fit.
 PROCESSORS = "/sys/devices/system/cpu/online"
 
@@ -87,12 +85,6 @@ def opened(trace: str, world: World) -> set[str]:
 
 def connected(trace: str, world: World) -> set[str]:
     return {normalised(" ".join(match), world) for match in CONNECTED.findall(trace)}
-
-
-def normalised(text: str, world: World) -> str:
-    """Without what differs from one start to the next."""
-    text = text.replace(str(world.folder), "WORLD")
-    return CHANGING.sub(r"\1*", text)
 
 
 class HostilePackTest(DesktopTest):

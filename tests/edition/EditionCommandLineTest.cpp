@@ -43,6 +43,10 @@ private Q_SLOTS:
 
         QTest::newRow("nothing") << QStringList() << u"没有写要做什么"_qs;
         QTest::newRow("unknown") << QStringList{u"publish"_qs} << u"不认得“publish”"_qs;
+        QTest::newRow("that steers the terminal")
+            << QStringList{u"\x1b]0;a"_qs} << u"不认得“\uFFFD]0;a”"_qs;
+        QTest::newRow("option that does")
+            << QStringList{u"check"_qs, u"-\x1b"_qs} << u"check 不认得“-\uFFFD”"_qs;
         QTest::newRow("option of another")
             << QStringList{u"draft"_qs, u"--strict"_qs, u"a"_qs} << u"draft 不认得“--strict”"_qs;
         QTest::newRow("too few") << QStringList{u"next"_qs, u"a"_qs}

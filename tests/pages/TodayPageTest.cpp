@@ -317,6 +317,20 @@ private Q_SLOTS:
         QCOMPARE(page->entries()->rows().at(1).card.timeLabel, u"2 小时前核验"_qs);
     }
 
+    // It told the hour at which it was left.
+    void hasAgedWhenItShowsAgain()
+    {
+        SampleModel sample;
+        sample.now = 1788220800 + 3600;
+        ShownPage<TodayPage> page(std::move(sample));
+
+        page->setShown(false);
+        page.sample.now += 3600;
+        page->setShown(true);
+
+        QCOMPARE(page->entries()->rows().at(1).card.timeLabel, u"2 小时前核验"_qs);
+    }
+
     // A pack stamped in whole seconds shows the day's own focus, while the rest is what the
     // computed focus leaves: a signal can stand in both.
     void aCardMayStandTwice()

@@ -105,6 +105,18 @@ private Q_SLOTS:
         page->refresh();
         QCOMPARE(badgesOf(*page), QStringList({u"已定格"_qs, u"已定格"_qs}));
     }
+
+    // A reader who came back to it on Monday still saw last week running.
+    void theWeekHasEndedWhenItShowsAgain()
+    {
+        ShownPage<WeeklyPage> page(twoWeeks());
+
+        page->setShown(false);
+        page.sample.now = mondayEarly;
+        page->setShown(true);
+
+        QCOMPARE(badgesOf(*page), QStringList({u"已定格"_qs, u"已定格"_qs}));
+    }
 };
 
 TEST_SUBJECT(WeeklyPageTest)

@@ -105,6 +105,8 @@ private Q_SLOTS:
         QTest::newRow("option") << QStringList{u"--x"_qs} << u"没有“--x”这个选项。"_qs;
         QTest::newRow("another case") << QStringList{u"--Help"_qs} << u"没有“--Help”这个选项。"_qs;
         QTest::newRow("argument") << QStringList{u"pack.json"_qs} << u"不接受参数“pack.json”。"_qs;
+        QTest::newRow("that steers the terminal")
+            << QStringList{u"\x1b]0;a\nb\r"_qs} << u"不接受参数“\uFFFD]0;a b ”。"_qs;
         QTest::newRow("empty") << QStringList{QString()} << u"不接受参数“”。"_qs;
         QTest::newRow("two") << QStringList{u"--help"_qs, u"--version"_qs}
                              << u"一次只能用一个选项。"_qs;

@@ -246,6 +246,17 @@ private Q_SLOTS:
         QVERIFY(!fade->isVisible());
     }
 
+    void theHoursHavePassedWhenTheReaderComesBack()
+    {
+        const auto card = [this] {
+            return ScreenReader::description(find(u"Title of a"_qs, QAccessible::ListItem));
+        };
+        QVERIFY(card().contains(u"，4 小时前核验\n"));
+        constexpr double hours = 2 * 3600;
+        window().turnAway([this] { m_visit->sample().now += hours; });
+        QVERIFY(card().contains(u"，6 小时前核验\n"));
+    }
+
     void theAdjustmentsCanBeReset()
     {
         model().reduceSimilar(u"a"_qs);

@@ -4,6 +4,18 @@
 
 #include <QTest>
 
+namespace {
+
+void activate(QWindow& window)
+{
+    window.requestActivate();
+    if (!QTest::qWaitForWindowActive(&window)) {
+        qFatal("The window does not become active.");
+    }
+}
+
+} // namespace
+
 WorkbenchWindow::WorkbenchWindow(InformationModel& model, QSize size,
                                  const std::function<void(QQmlEngine&)>& prepare)
 {
@@ -80,6 +92,15 @@ void WorkbenchWindow::type(const QByteArray& text) const
         QTest::keyClick(m_window, character);
     }
     settle();
+}
+
+void WorkbenchWindow::turnAway(const std::function<void()>& meanwhile) const
+{
+    QWindow other;
+    other.show();
+    activate(other);
+    meanwhile();
+    activate(*m_window);
 }
 
 bool WorkbenchWindow::hasFocus(const QString& name, QAccessible::Role role) const

@@ -41,6 +41,9 @@ public:
     /// ASCII only.
     void type(const QByteArray& text) const;
 
+    /// The reader turns to another window, and comes back after what happens meanwhile.
+    void turnAway(const std::function<void()>& meanwhile) const;
+
     bool hasFocus(const QString& name, QAccessible::Role role) const;
 
 private:
