@@ -8,7 +8,7 @@ import json
 import os
 import shutil
 import unittest
-from collections.abc import Iterator
+from collections.abc import Iterator, Sequence
 from contextlib import contextmanager
 from pathlib import Path
 
@@ -42,10 +42,11 @@ class DesktopTest(unittest.TestCase):
         scheme: str | None = "light",
         screen: tuple[int, int] = (1920, 1200),
         screen_reader: bool = True,
+        window_manager: Sequence[str] = World.OPENBOX,
     ) -> Iterator[World]:
         """A world for this test. A failure leaves pictures, trees and messages behind; a program
         that prints a message, as Qt does for every warning, is a failure."""
-        with World(scheme, screen, screen_reader) as world:
+        with World(scheme, screen, screen_reader, window_manager) as world:
             try:
                 yield world
                 for program in world.programs():

@@ -85,6 +85,10 @@ class Program:
         self.wait_until(lambda: self.size() == (width, height), f"the window is {width} x {height}")
         self.wait_until(lambda: self._laid_out_size() == (width, height), "it is laid out anew")
 
+    def move(self, to: tuple[int, int]) -> None:
+        self._xdotool("windowmove", self.window(), *map(str, to))
+        self.wait_until(lambda: self.position() == to, f"the window is at {to}")
+
     def size(self) -> tuple[int, int]:
         geometry = self._geometry()
         return geometry["WIDTH"], geometry["HEIGHT"]
@@ -94,14 +98,31 @@ class Program:
         geometry = self._geometry()
         return geometry["X"], geometry["Y"]
 
-    def drag(self, start: tuple[int, int], way: tuple[int, int]) -> None:
-        """Drags by the pointer from the point in the window, in steps as a hand does."""
+    def drag(
+        self,
+        start: tuple[int, int],
+        way: tuple[int, int],
+        followed: Callable[[], bool] = lambda: True,
+    ) -> None:
+        """Drags by the pointer from the point in the window, in steps as a hand does, and holds it
+        until the window has `followed`."""
         window, (x, y) = self.window(), self.position()
         self._xdotool("mousemove", "--window", window, *map(str, start), "mousedown", "1")
         for step in (1, 5, 10, 20):
             goal = (x + start[0] + way[0] * step // 20, y + start[1] + way[1] * step // 20)
             self._xdotool("mousemove", "--sync", *map(str, goal))
+        self.wait_until(lambda: followed() or self._stir(goal), "the window has followed")
         self._xdotool("mouseup", "1")
+
+    def _stir(self, point: tuple[int, int]) -> None:
+        """A hand that holds is never still: who begins to look late sees it move."""
+        x, y = point
+        self._xdotool("mousemove", str(x + 1), str(y), "mousemove", str(x), str(y))
+
+    def double_click(self, at: tuple[int, int]) -> None:
+        """At the point in the window."""
+        point = ("mousemove", "--window", self.window(), *map(str, at))
+        self._xdotool(*point, "click", "1", "click", "1")
 
     def _geometry(self) -> dict[str, int]:
         lines = self._xdotool("getwindowgeometry", "--shell", self.window()).splitlines()

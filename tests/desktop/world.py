@@ -7,6 +7,7 @@ import shutil
 import stat
 import sys
 import tempfile
+from collections.abc import Sequence
 from pathlib import Path
 
 from gi.repository import Gio, GLib
@@ -46,15 +47,19 @@ class World:
     is no portal. `screen_reader` is what the desktop says of one.
     """
 
+    OPENBOX = ("openbox", "--sm-disable")
+
     def __init__(
         self,
         scheme: str | None = None,
         screen: tuple[int, int] = (1920, 1200),
         screen_reader: bool = True,
+        window_manager: Sequence[str] = OPENBOX,
     ):
         self._scheme = scheme
         self._screen_reader = screen_reader
         self._screen = screen
+        self._window_manager = window_manager
         self._processes: list[OwnProcess] = []
         self._programs: list[Program] = []
 
@@ -233,7 +238,7 @@ class World:
         )
 
     def _start_window_manager(self) -> None:
-        self._run("window-manager", ["openbox", "--sm-disable"])
+        self._run("window-manager", list(self._window_manager))
         # There is no number of desktops until a window manager has announced itself.
         question = ["xdotool", "get_num_desktops"]
         wait_until(lambda: succeeds(question, self.environment), "the window manager")
