@@ -2,9 +2,21 @@
 
 #include "KeysPage.h"
 
+#include <QStringList>
+
 QString KeysPage::title()
 {
     return u"键盘操作"_qs;
+}
+
+QString KeysPage::description()
+{
+    QStringList lines;
+    const auto all = rows();
+    for (const auto& row : all) {
+        lines.append(row.name());
+    }
+    return lines.join(u'\n');
 }
 
 QList<LabelledTextRow> KeysPage::rows()

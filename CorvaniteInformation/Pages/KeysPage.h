@@ -16,6 +16,8 @@ class KeysPage : public QObject
     QML_ELEMENT
 
     Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    /// All rows, for a screen reader.
+    Q_PROPERTY(QString description READ description CONSTANT FINAL)
     /// Keys, and what they do.
     Q_PROPERTY(QList<LabelledTextRow> rows READ rows CONSTANT FINAL)
 
@@ -23,5 +25,6 @@ public:
     using QObject::QObject;
 
     static QString title();
+    static QString description();
     static QList<LabelledTextRow> rows();
 };

@@ -4,12 +4,31 @@
 
 #include "OpenableAddress.h"
 
+#include <QStringList>
+
 #include <utility>
 
-ThreadPage::Thread ThreadPage::Thread::from(const InformationSignal& signal)
+namespace {
+
+QString descriptionOf(const InformationSignal& signal, const QList<TimelineNodeRow>& timelineBegin)
 {
-    return {signal.title, signal.digest, OpenableAddress::from(signal.originalURL),
-            !signal.relatedSources.isEmpty()};
+    QStringList lines;
+    if (signal.digest) {
+        lines.append(u"页内要点："_qs + *signal.digest);
+    }
+    for (const auto& node : timelineBegin) {
+        lines.append(node.name());
+    }
+    return lines.join(u'\n');
+}
+
+} // namespace
+
+ThreadPage::Thread ThreadPage::Thread::from(const InformationSignal& signal,
+                                            const QList<TimelineNodeRow>& timelineBegin)
+{
+    return {signal.title, descriptionOf(signal, timelineBegin), signal.digest,
+            OpenableAddress::from(signal.originalURL), !signal.relatedSources.isEmpty()};
 }
 
 void ThreadPage::setSignalId(const QString& signalId)
@@ -50,8 +69,9 @@ void ThreadPage::show(const InformationModel& workbench)
     if (!signal) {
         return;
     }
-    m_rows.setRows(ThreadRow::columnOf(*signal));
-    m_thread = Thread::from(*signal);
+    const auto rows = ThreadRow::columnOf(*signal);
+    m_rows.setRows(rows);
+    m_thread = Thread::from(*signal, rows.first().timeline);
     const auto entry = workbench.isKept(*signal) ? workbench.savedEntry(*signal) : std::nullopt;
     showSaved(entry ? std::optional(Saved{entry->second.saveReason, entry->second.note})
                     : std::nullopt);

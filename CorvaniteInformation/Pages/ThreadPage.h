@@ -21,6 +21,9 @@ class ThreadPage : public WorkbenchPage
         QString signalId READ signalId WRITE setSignalId NOTIFY signalIdChanged REQUIRED FINAL)
 
     Q_PROPERTY(QString title READ title NOTIFY threadChanged FINAL)
+    /// What a screen reader says as the thread opens: its main points and the first of its
+    /// timeline.
+    Q_PROPERTY(QString description READ description NOTIFY threadChanged FINAL)
     Q_PROPERTY(bool hasDigest READ hasDigest NOTIFY threadChanged FINAL)
     Q_PROPERTY(QString digest READ digest NOTIFY threadChanged FINAL)
     /// Empty when the original has no address to open.
@@ -39,6 +42,7 @@ public:
     void setSignalId(const QString& signalId);
 
     const QString& title() const { return m_thread.value().title; }
+    const QString& description() const { return m_thread.value().description; }
     bool hasDigest() const { return m_thread.value().digest.has_value(); }
     QString digest() const { return m_thread.value().digest.value_or(QString()); }
     const QString& originalAddress() const { return m_thread.value().originalAddress; }
@@ -70,11 +74,13 @@ private:
     struct Thread
     {
         QString title;
+        QString description;
         std::optional<QString> digest;
         QString originalAddress;
         bool hasSources = false;
 
-        static Thread from(const InformationSignal& signal);
+        static Thread from(const InformationSignal& signal,
+                           const QList<TimelineNodeRow>& timelineBegin);
         friend bool operator==(const Thread&, const Thread&) = default;
     };
 

@@ -34,6 +34,7 @@ public:
         Sources
     };
 
+    /// Begins with a slice of the timeline.
     static QList<ThreadRow> columnOf(const InformationSignal& signal);
 
     Kind kind = Kind::Timeline;

@@ -23,3 +23,9 @@ QList<TimelineNodeRow> TimelineNodeRow::timelineOf(const InformationSignal& sign
     rows.last().isLast = true;
     return rows;
 }
+
+QString TimelineNodeRow::name() const
+{
+    const auto text = date + u'：' + summary;
+    return source.isEmpty() ? text : text + u'（' + source + u'）';
+}

@@ -20,6 +20,8 @@ struct TimelineNodeRow
     Q_PROPERTY(QString source MEMBER source CONSTANT FINAL)
     Q_PROPERTY(bool isNow MEMBER isNow CONSTANT FINAL)
     Q_PROPERTY(bool isLast MEMBER isLast CONSTANT FINAL)
+    /// All of it, for a screen reader.
+    Q_PROPERTY(QString name READ name CONSTANT FINAL)
 
 public:
     /// The signal's present state, then its recorded events in their order.
@@ -32,6 +34,8 @@ public:
     /// The present state, which comes first.
     bool isNow = false;
     bool isLast = false;
+
+    QString name() const;
 
     friend bool operator==(const TimelineNodeRow&, const TimelineNodeRow&) = default;
 };

@@ -42,8 +42,8 @@ SESSION = [
     *("ctrl+5", "Tab"),
     # A hand-in that is refused, and a sync that fails
     *("ctrl+n", TYPED + "http://127.0.0.1/", "ctrl+Return", "Escape", "F5"),
-    # Back
-    "ctrl+1",
+    # The keys, and back
+    *("F1", "Escape", "ctrl+1"),
 ]
 
 

@@ -23,6 +23,16 @@ private Q_SLOTS:
         }
         QVERIFY(text.endsWith(table));
     }
+
+    void aScreenReaderSaysAllRows()
+    {
+        const auto rows = KeysPage::rows();
+        const auto lines = KeysPage::description().split(u'\n');
+
+        QCOMPARE(lines.size(), rows.size());
+        QCOMPARE(lines.at(1), u"Ctrl+N 添加信息"_qs);
+        QCOMPARE(lines.last(), rows.last().name());
+    }
 };
 
 TEST_SUBJECT(KeysPageTest)

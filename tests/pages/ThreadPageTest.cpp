@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ThreadPage.h"
+#include "RowSlices.h"
 #include "ShownPage.h"
 #include "Subject.h"
 
@@ -37,6 +38,8 @@ private Q_SLOTS:
         QCOMPARE(page->title(), u"Title of a"_qs);
         QVERIFY(page->hasDigest());
         QCOMPARE(page->digest(), u"要点"_qs);
+        QCOMPARE(page->description(),
+                 u"页内要点：要点\n现在：Summary of a\n8 月 25 日：首次出现（榜单）"_qs);
         QCOMPARE(page->originalAddress(), u"https://origin.example/a"_qs);
         QVERIFY(page->hasSources());
         QCOMPARE(page->rows()->rows(), ThreadRow::columnOf(page.sample.signals.first()));
@@ -49,7 +52,19 @@ private Q_SLOTS:
         page->setSignalId(u"a"_qs);
 
         QVERIFY(!page->hasDigest());
+        QCOMPARE(page->description(), u"现在：Summary of a"_qs);
         QVERIFY(!page->hasSources());
+    }
+
+    void describesNoMoreThanTheFirstOfALongTimeline()
+    {
+        SampleModel sample;
+        sample.signals.first().timeline.fill(
+            {u"8 月 25 日"_qs, u"2026-08-25T00:00:00Z"_qs, u"复核"_qs, u"编辑"_qs}, 1000);
+        ShownPage<ThreadPage> page(std::move(sample));
+        page->setSignalId(u"a"_qs);
+
+        QCOMPARE(page->description().count(u'\n') + 1, RowSlices::longest);
     }
 
     void marksTheSignalSeen()

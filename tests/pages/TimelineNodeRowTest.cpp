@@ -41,6 +41,18 @@ private Q_SLOTS:
         QVERIFY(!rows.at(1).isLast);
         QVERIFY(rows.at(2).isLast);
     }
+
+    void aScreenReaderSaysAllOfANode()
+    {
+        auto signal = sampleSignal(u"a"_qs);
+        signal.timeline = {
+            {u"8 月 25 日"_qs, u"2026-08-25T00:00:00Z"_qs, u"首次出现。"_qs, u"榜单"_qs}};
+
+        const auto rows = TimelineNodeRow::timelineOf(signal);
+
+        QCOMPARE(rows.at(0).name(), u"现在：Summary of a"_qs);
+        QCOMPARE(rows.at(1).name(), u"8 月 25 日：首次出现。（榜单）"_qs);
+    }
 };
 
 TEST_SUBJECT(TimelineNodeRowTest)

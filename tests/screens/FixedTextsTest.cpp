@@ -107,7 +107,6 @@ private:
 
     void add(const QString& text)
     {
-        static const QRegularExpression chinese(u"\\p{Han}"_qs);
         if (text.contains(chinese) && !m_content.contains(text)) {
             m_shownNow.insert(text);
         }
@@ -132,10 +131,13 @@ private:
         return take(shown) || std::ranges::any_of(u"\n，"_qs, [this, &shown](QChar joint) {
                    const auto parts = shown.split(joint);
                    return parts.size() > 1 &&
-                          std::ranges::all_of(
-                              parts, [this](const QString& part) { return takeWhole(part); });
+                          std::ranges::all_of(parts, [this](const QString& part) {
+                              return !part.contains(chinese) || takeWhole(part);
+                          });
                });
     }
+
+    inline static const QRegularExpression chinese{u"\\p{Han}"_qs};
 
     QList<FixedText> m_texts;
     QSet<QString> m_content;

@@ -46,6 +46,7 @@ Column {
 
     Accessible.role: Accessible.Dialog
     Accessible.name: form.title
+    Accessible.description: lead.text
 
     Column {
         width: parent.width
@@ -66,7 +67,9 @@ Column {
                 textStyle: InformationTheme.title1
             }
 
-            AppText {
+            SheetText {
+                id: lead
+
                 width: parent.width
                 text: "粘贴一个网页，或直接说想持续更新什么。系统自动选择合适方式，不让你配置工作流。"
                 color: InformationTheme.ink2
@@ -99,7 +102,7 @@ Column {
             }
         }
 
-        AppText {
+        SheetText {
             width: parent.width
             height: Math.max(40, implicitHeight)
             text: form.refused ? form.workbench.intakeErrorMessage : "已核验的公开来源会直接接入；其他输入先安全保存在本机，未接入时不会假装已经抓取。"

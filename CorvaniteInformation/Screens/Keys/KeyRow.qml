@@ -14,7 +14,8 @@ Item {
 
     implicitHeight: Math.max(keys.height, action.height)
 
-    Accessible.role: Accessible.StaticText
+    // As of a SheetText.
+    Accessible.role: Accessible.Paragraph
     Accessible.name: key.row.name
 
     AppText {

@@ -29,6 +29,7 @@ Sheet {
 
         Accessible.role: Accessible.Dialog
         Accessible.name: sheet.title
+        Accessible.description: page.description
 
         // The button has the focus, and the list turns.
         Keys.forwardTo: [keys.scroller]

@@ -46,6 +46,7 @@ Sheet {
 
         Accessible.role: Accessible.Dialog
         Accessible.name: sheet.title
+        Accessible.description: threadPage.description
 
         Item {
             id: header

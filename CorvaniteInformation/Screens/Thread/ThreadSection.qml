@@ -19,7 +19,7 @@ Column {
         textStyle: InformationTheme.smallBold
     }
 
-    AppText {
+    SheetText {
         width: parent.width
         text: section.text
         color: section.tint

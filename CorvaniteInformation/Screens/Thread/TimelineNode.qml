@@ -15,6 +15,10 @@ Item {
 
     implicitHeight: Math.max(texts.height, date.y + date.height) + (row.isLast ? 0 : 16)
 
+    // As of a SheetText.
+    Accessible.role: Accessible.Paragraph
+    Accessible.name: node.row.name
+
     Rectangle {
         x: node.axis
         y: node.row.isNow ? node.nodeY : 0
@@ -44,6 +48,7 @@ Item {
         text: node.row.date
         textStyle: node.row.isNow ? InformationTheme.smallBold : InformationTheme.small
         color: node.row.isNow ? InformationTheme.accent : InformationTheme.ink2
+        Accessible.ignored: true
     }
 
     Column {
@@ -56,6 +61,7 @@ Item {
         AppText {
             width: parent.width
             text: node.row.summary
+            Accessible.ignored: true
         }
 
         AppText {
@@ -66,6 +72,7 @@ Item {
             color: InformationTheme.ink2
             maximumLineCount: InformationTheme.longestName
             elide: Text.ElideRight
+            Accessible.ignored: true
         }
     }
 }

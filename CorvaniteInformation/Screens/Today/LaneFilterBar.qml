@@ -8,7 +8,7 @@ import CorvaniteInformation.Pages
 
 /// The chips that choose which lane today's lists show. The arrow keys choose the neighbours. Where they
 /// would not fit in a line they move together.
-Flow {
+Item {
     id: bar
 
     required property TodayPage page
@@ -16,51 +16,59 @@ Flow {
     readonly property int roomySpacing: 6
     readonly property bool tight: lead.width + chips.roomyWidth > width
 
-    spacing: tight ? 4 : roomySpacing
+    implicitHeight: flow.height
 
-    Accessible.role: Accessible.Grouping
-    Accessible.name: caption.text
+    // Not in the group: a screen reader counts what is there besides the chips.
+    AppText {
+        id: caption
 
-    Item {
-        id: lead
-
-        width: caption.implicitWidth + 2
-        height: 28
-
-        AppText {
-            id: caption
-
-            anchors.verticalCenter: parent.verticalCenter
-            text: "筛选："
-            textStyle: InformationTheme.caption
-            color: InformationTheme.ink3
-            wrapMode: Text.NoWrap
-        }
+        y: (lead.height - height) / 2
+        text: "筛选："
+        textStyle: InformationTheme.caption
+        color: InformationTheme.ink3
+        wrapMode: Text.NoWrap
     }
 
-    Repeater {
-        id: chips
+    Flow {
+        id: flow
 
-        readonly property real roomyWidth: {
-            let sum = 0;
-            for (let i = 0; i < count; ++i)
-                sum += bar.roomySpacing + ((itemAt(i) as Chip)?.roomyWidth ?? 0);
-            return sum;
+        width: parent.width
+        spacing: bar.tight ? 4 : bar.roomySpacing
+
+        Accessible.role: Accessible.Grouping
+        Accessible.name: caption.text
+
+        Item {
+            id: lead
+
+            width: caption.implicitWidth + 2
+            height: 28
         }
 
-        model: bar.page.lanes
+        Repeater {
+            id: chips
 
-        Chip {
-            required property laneChipRow row
-            required property int index
+            readonly property real roomyWidth: {
+                let sum = 0;
+                for (let i = 0; i < count; ++i)
+                    sum += bar.roomySpacing + ((itemAt(i) as Chip)?.roomyWidth ?? 0);
+                return sum;
+            }
 
-            text: row.text
-            square: row.square
-            selected: row.selected
-            tight: bar.tight
-            onClicked: bar.page.selectLane(row.lane)
-            Keys.onLeftPressed: bar.choose(index - 1)
-            Keys.onRightPressed: bar.choose(index + 1)
+            model: bar.page.lanes
+
+            Chip {
+                required property laneChipRow row
+                required property int index
+
+                text: row.text
+                square: row.square
+                selected: row.selected
+                tight: bar.tight
+                onClicked: bar.page.selectLane(row.lane)
+                Keys.onLeftPressed: bar.choose(index - 1)
+                Keys.onRightPressed: bar.choose(index + 1)
+            }
         }
     }
 

@@ -120,6 +120,7 @@ Item {
                         DisclosureAnnouncement {
                             button: disclosure
                             description: disclosure.Accessible.description
+                            Accessible.description: face.row.changeOpen ? face.row.change : ""
                         }
                     }
                 }
