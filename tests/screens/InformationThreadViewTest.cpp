@@ -2,10 +2,13 @@
 
 #include "Browser.h"
 #include "Composition.h"
+#include "SchemePalette.h"
 #include "ScreenTour.h"
 #include "SiteDocuments.h"
 #include "Subject.h"
 
+#include <QGuiApplication>
+#include <QPainter>
 #include <QQmlProperty>
 #include <QTest>
 
@@ -263,6 +266,49 @@ private Q_SLOTS:
         QCOMPARE(stored(), u"abc"_qs);
         QCOMPARE(note(), editor);
         QVERIFY(ScreenReader::place(body).intersects(ScreenReader::place(editor)));
+    }
+
+    // With the focus on the sheet's button they did nothing.
+    void theKeysThatTurnPagesTurnIt()
+    {
+        visitLongThread();
+        open(u"a"_qs);
+        QTRY_VERIFY(window().hasFocus(u"关闭"_qs, QAccessible::Button));
+        auto* const body = ScreenReader::paneAround(present()->parentItem());
+        const auto top = body->property("contentY").toReal();
+
+        window().pressKey(Qt::Key_PageDown);
+        QVERIFY(body->property("contentY").toReal() > top);
+        window().pressKey(Qt::Key_Home);
+        QCOMPARE(body->property("contentY").toReal(), top);
+    }
+
+    void whatIsScrolledAwayIsNotSeenAroundTheBody()
+    {
+        using Scheme = AppearancePortal::ColorScheme;
+        visitLongThread();
+        open(u"a"_qs);
+        window().settle();
+        auto* const body = ScreenReader::paneAround(present()->parentItem());
+        // Between two colour schemes everything is drawn anew at once.
+        const auto around = [this, body] {
+            QImage drawn;
+            for (const auto scheme : {Scheme::Dark, Scheme::Light}) {
+                QGuiApplication::setPalette(schemePalette(scheme));
+                drawn = window().window()->grabWindow();
+            }
+            QPainter(&drawn).fillRect(ScreenReader::place(body), Qt::black);
+            return drawn;
+        };
+        body->setProperty("contentY", 600);
+        const auto before = around();
+        QMetaObject::invokeMethod(body, "positionViewAtEnd");
+        const auto end = body->property("contentY").toReal();
+        for (int y = 0; y < 400; y += 20) {
+            body->setProperty("contentY", end - y);
+            QVERIFY2(around() == before, qPrintable(QString::number(y)));
+        }
+        QGuiApplication::setPalette({});
     }
 
 private:

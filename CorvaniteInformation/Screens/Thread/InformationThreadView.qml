@@ -48,6 +48,9 @@ Sheet {
         Accessible.name: sheet.title
         Accessible.description: threadPage.description
 
+        // The button may have the focus, and the body turns.
+        Keys.forwardTo: [body.scroller]
+
         Item {
             id: header
 
@@ -104,6 +107,11 @@ Sheet {
             width: parent.width
             height: parent.height - y
             page: threadPage
+        }
+
+        // Else an icon is seen on the sheet's header, and on the page behind it.
+        ClippedShapes {
+            pane: body
         }
     }
 }
