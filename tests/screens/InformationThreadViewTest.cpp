@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QQmlProperty>
 #include <QTest>
+#include <QtTest/qtest_gui.h>
 
 /// The sheet with a signal's whole thread.
 class InformationThreadViewTest : public QObject
