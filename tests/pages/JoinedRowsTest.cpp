@@ -89,6 +89,30 @@ private Q_SLOTS:
         QCOMPARE(changed.at(1).first().toModelIndex().row(), 5);
     }
 
+    void aMovedRowIsToldWhereItStands()
+    {
+        const QSignalSpy moved(&m_joined, &JoinedRows::rowsMoved);
+        m_second.setRows(letters(u"xzy"_qs));
+        QCOMPARE(moved.size(), 1);
+        QCOMPARE(moved.first().at(1).toInt(), 5);
+        QCOMPARE(moved.first().at(2).toInt(), 5);
+        QCOMPARE(moved.first().at(4).toInt(), 4);
+    }
+
+    void rowsHaveNoRowsOfTheirOwn() { QCOMPARE(m_joined.rowCount(m_joined.index(0)), 0); }
+
+    void anotherListIsTold()
+    {
+        const QSignalSpy first(&m_joined, &JoinedRows::firstChanged);
+        const QSignalSpy second(&m_joined, &JoinedRows::secondChanged);
+        m_joined.setFirst(nullptr);
+        m_joined.setFirst(nullptr);
+        QCOMPARE(first.size(), 1);
+        QCOMPARE(second.size(), 0);
+        m_joined.setSecond(nullptr);
+        QCOMPARE(second.size(), 1);
+    }
+
     void aListComesAndGoesAsRows()
     {
         const QSignalSpy resets(&m_joined, &JoinedRows::modelReset);
@@ -104,6 +128,15 @@ private Q_SLOTS:
         m_joined.setSecond(nullptr);
         QCOMPARE(removed.size(), 2);
         QVERIFY(resets.isEmpty());
+    }
+
+    void aListOfOneRowComesAsARow()
+    {
+        m_joined.setSecond(nullptr);
+        m_second.setRows(letters(u"w"_qs));
+        const QSignalSpy inserted(&m_joined, &JoinedRows::rowsInserted);
+        m_joined.setSecond(&m_second);
+        QCOMPARE(inserted.size(), 1);
     }
 
     void aListThatWasLeftIsNotFollowed()

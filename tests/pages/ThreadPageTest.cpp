@@ -67,6 +67,15 @@ private Q_SLOTS:
         QCOMPARE(page->description().count(u'\n') + 1, RowSlices::longest);
     }
 
+    void anotherSignalIsTold()
+    {
+        ShownPage<ThreadPage> page;
+        const QSignalSpy told(&*page, &ThreadPage::signalIdChanged);
+        page->setSignalId(u"a"_qs);
+        page->setSignalId(u"a"_qs);
+        QCOMPARE(told.size(), 1);
+    }
+
     void marksTheSignalSeen()
     {
         ShownPage<ThreadPage> page;
