@@ -17,25 +17,20 @@ Item {
     readonly property real share: way > 0 ? (pane.contentY - firstY) / way : 0
     readonly property Item focused: pane.Window.activeFocusItem
 
-    /// The pane shows its beginning.
-    property bool atTop: true
+    /// Where what the pane shows began before that changed last.
+    property real formerFirstY: 0
 
     /// What is kept free above and below the item that is scrolled to.
     readonly property real air: 16
     readonly property real line: 48
     readonly property real leap: pane.height - line
 
-    // What was at its top stays there when the room above it changes.
-    onFirstYChanged: if (atTop)
-        pane.contentY = firstY
-
-    Connections {
-        target: scroller.pane
-
-        function onContentYChanged() {
-            // Not firstY, which may still be due to change.
-            scroller.atTop = scroller.pane.contentY <= scroller.pane.originY - scroller.pane.topMargin;
-        }
+    // What was at its top stays there when the room above it changes. A leap down also changes it,
+    // once the pane stands elsewhere.
+    onFirstYChanged: {
+        if (pane.contentY <= formerFirstY)
+            pane.contentY = firstY;
+        formerFirstY = firstY;
     }
 
     // A press does not scroll what is under the pointer away.
