@@ -34,10 +34,15 @@ TestCase {
     readonly property real beginning: list.originY - list.topMargin
 
     function init() {
+        InformationTheme.reducedMotion = true;
         list.topMargin = 30;
         keyClick(Qt.Key_Home);
         list.forceLayout();
         compare(list.contentY, beginning);
+    }
+
+    function cleanup() {
+        InformationTheme.reducedMotion = false;
     }
 
     // Where the first row is not as high as the others, the list takes its beginning for another once
@@ -67,5 +72,39 @@ TestCase {
         const before = list.contentY;
         list.topMargin = 80;
         compare(list.contentY, before);
+    }
+
+    function test_pagesAddUpOnTheirWay() {
+        InformationTheme.reducedMotion = false;
+        const before = list.contentY;
+        keyClick(Qt.Key_PageDown);
+        keyClick(Qt.Key_PageDown);
+        keyClick(Qt.Key_Up);
+        verify(list.contentY < before + list.scroller.leap);
+        tryCompare(list, "contentY", before + 2 * list.scroller.leap - list.scroller.line);
+    }
+
+    function test_whatTakesTheListElsewhereEndsItsWay_data() {
+        return [
+            {tag: "a key", act: () => keyClick(Qt.Key_End)},
+            {tag: "the scroll bar", act: () => list.scroller.scrollToShare(0.5)},
+            {tag: "the focus", act: () => list.scroller.reveal(list.itemAtIndex(0), 0, 100)}
+        ];
+    }
+
+    function test_whatTakesTheListElsewhereEndsItsWay(data) {
+        InformationTheme.reducedMotion = false;
+        keyClick(Qt.Key_PageDown);
+        data.act();
+        compare(list.scroller.goal(), list.contentY);
+    }
+
+    function test_aPageUpComesToTheBeginning() {
+        keyClick(Qt.Key_PageDown);
+        list.forceLayout();
+        InformationTheme.reducedMotion = false;
+        keyClick(Qt.Key_PageUp);
+        tryVerify(() => list.contentY === list.scroller.goal());
+        compare(list.contentY, beginning);
     }
 }
