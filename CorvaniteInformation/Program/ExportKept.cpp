@@ -6,6 +6,7 @@
 #include "InformationWorkspaceRepository.h"
 #include "KeptExport.h"
 #include "LocalFileManager.h"
+#include "PrintableText.h"
 
 #include <QFileInfo>
 
@@ -72,7 +73,8 @@ Answer write(const QByteArray& document, const QString& file, const LocalFileMan
 {
     const auto written = files.replaceFile(absolute(file), document);
     return written
-               ? Answer{u"收下的内容已写到“%1”。\n"_qs.arg(file), EXIT_SUCCESS}
+               ? Answer{u"收下的内容已写到“%1”。\n"_qs.arg(PrintableText::oneLine(file)),
+                        EXIT_SUCCESS}
                : CommandLine::failure(u"“%1”没有写成：%2"_qs.arg(file, reason(written.error())));
 }
 

@@ -5,6 +5,7 @@
 
 #include <QTest>
 #include <QWindow>
+#include <QtTest/qtest_gui.h>
 
 class RowReachTest : public QObject
 {

@@ -7,8 +7,6 @@
 
 #include <QTest>
 
-using Kind = NormalizedInformationIntake::Kind;
-
 namespace {
 
 CustomInformationSource sourceWith(const QString& input)
@@ -136,7 +134,7 @@ private Q_SLOTS:
         const auto intake = InformationIntake::normalize(input);
         QVERIFY(intake.has_value());
         QCOMPARE(intake->value, value);
-        QCOMPARE(intake->kind, Kind::Url);
+        QCOMPARE(intake->kind, NormalizedInformationIntake::Kind::Url);
         QCOMPARE(intake->identity, u"url:"_qs + value);
         QVERIFY(InformationIntake::normalize(value) == intake);
     }
@@ -246,7 +244,7 @@ private Q_SLOTS:
         const auto intake = InformationIntake::normalize(input);
         QVERIFY(intake.has_value());
         QCOMPARE(intake->value, value);
-        QCOMPARE(intake->kind, Kind::Text);
+        QCOMPARE(intake->kind, NormalizedInformationIntake::Kind::Text);
         QCOMPARE(intake->identity, identity);
         QVERIFY(InformationIntake::normalize(value) == intake);
     }

@@ -15,13 +15,11 @@ using namespace InformationPackSync;
 
 namespace {
 
-using Kind = SyncError::Kind;
-
 const QString directory = u"/support/Corvanite/Information"_qs;
 const QString packPath = directory + u"/information-pack.json"_qs;
 const QString retiredPath = directory + u"/retired-signals.json"_qs;
 
-Snapshot exampleSnapshot()
+Snapshot decodedExample()
 {
     return InformationPackCoding::decode(examplePack()).value();
 }
@@ -37,12 +35,14 @@ class InformationPackSyncTest : public QObject
 {
     Q_OBJECT
 
+    using Kind = SyncError::Kind;
+
 private Q_SLOTS:
-    void acceptsAPackWhole() { QCOMPARE(parse(examplePack()), exampleSnapshot()); }
+    void acceptsAPackWhole() { QCOMPARE(parse(examplePack()), decodedExample()); }
 
     void acceptsAPackOfTheGreatestLength()
     {
-        QCOMPARE(parse(examplePack().leftJustified(1'500'000, ' ')), exampleSnapshot());
+        QCOMPARE(parse(examplePack().leftJustified(1'500'000, ' ')), decodedExample());
     }
 
     void theFirstFailingCheckDecides_data()
@@ -99,7 +99,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, asOf);
         QFETCH(QString, than);
-        Snapshot snapshot = exampleSnapshot();
+        Snapshot snapshot = decodedExample();
         snapshot.asOf = asOf;
 
         QTEST(snapshot.isNewer(than), "newer");
@@ -175,8 +175,8 @@ private Q_SLOTS:
         const MemoryFileManager fileManager;
         QVERIFY(saveSnapshot(examplePack(), directory, fileManager).has_value());
 
-        QCOMPARE(loadSnapshot(directory, fileManager), exampleSnapshot());
-        QCOMPARE(loadSnapshotAsOf(directory, fileManager), exampleSnapshot().asOf);
+        QCOMPARE(loadSnapshot(directory, fileManager), decodedExample());
+        QCOMPARE(loadSnapshotAsOf(directory, fileManager), decodedExample().asOf);
     }
 
     void preferredSignalsDoNotDependOnTheStampGiven()
@@ -185,10 +185,9 @@ private Q_SLOTS:
         QVERIFY(!loadPreferredSignals({}, directory, fileManager));
         QVERIFY(saveSnapshot(examplePack(), directory, fileManager).has_value());
 
-        for (const auto& stamp : {u""_qs, InformationSeed::asOf(), exampleSnapshot().asOf,
+        for (const auto& stamp : {u""_qs, InformationSeed::asOf(), decodedExample().asOf,
                                   u"9999-12-31T00:00:00.000Z"_qs}) {
-            QCOMPARE(loadPreferredSignals(stamp, directory, fileManager),
-                     exampleSnapshot().signals);
+            QCOMPARE(loadPreferredSignals(stamp, directory, fileManager), decodedExample().signals);
         }
     }
 

@@ -8,16 +8,14 @@
 
 #include <QTest>
 
-Q_DECLARE_METATYPE(InformationSignal)
-
 namespace {
 
 constexpr auto Open = OriginalReachability::Open;
 constexpr auto Spotty = OriginalReachability::Spotty;
 constexpr auto Blocked = OriginalReachability::Blocked;
 
-constexpr double observed = 1'788'307'200; // 2026-09-02T00:00:00Z
-constexpr double hour = 3600;
+constexpr double firstObserved = 1'788'307'200; // 2026-09-02T00:00:00Z
+constexpr double anHour = 3600;
 
 InformationSignal at(const QString& originalURL)
 {
@@ -191,14 +189,14 @@ private Q_SLOTS:
         const auto some = [](const QString& text) { return std::optional(text); };
         QTest::newRow("in the future") << -0.001 << none;
         QTest::newRow("this moment") << 0.0 << some(u"刚刚核验"_qs);
-        QTest::newRow("just under an hour") << hour - 0.001 << some(u"刚刚核验"_qs);
-        QTest::newRow("one hour") << hour << some(u"1 小时前核验"_qs);
-        QTest::newRow("just under two hours") << 2 * hour - 0.001 << some(u"1 小时前核验"_qs);
-        QTest::newRow("five hours") << 5 * hour << some(u"5 小时前核验"_qs);
-        QTest::newRow("23.9 hours") << 23.9 * hour << some(u"23 小时前核验"_qs);
-        QTest::newRow("24 hours") << 24 * hour << some(u"昨天核验"_qs);
-        QTest::newRow("just under 48 hours") << 48 * hour - 0.001 << some(u"昨天核验"_qs);
-        QTest::newRow("48 hours") << 48 * hour << none;
+        QTest::newRow("just under an hour") << anHour - 0.001 << some(u"刚刚核验"_qs);
+        QTest::newRow("one hour") << anHour << some(u"1 小时前核验"_qs);
+        QTest::newRow("just under two hours") << 2 * anHour - 0.001 << some(u"1 小时前核验"_qs);
+        QTest::newRow("five hours") << 5 * anHour << some(u"5 小时前核验"_qs);
+        QTest::newRow("23.9 hours") << 23.9 * anHour << some(u"23 小时前核验"_qs);
+        QTest::newRow("24 hours") << 24 * anHour << some(u"昨天核验"_qs);
+        QTest::newRow("just under 48 hours") << 48 * anHour - 0.001 << some(u"昨天核验"_qs);
+        QTest::newRow("48 hours") << 48 * anHour << none;
         QTest::newRow("years") << 1e9 << none;
     }
 
@@ -208,18 +206,18 @@ private Q_SLOTS:
         InformationSignal signal = sampleSignal(u"s"_qs);
         signal.observedAt = u"2026-09-02T00:00:00Z"_qs;
 
-        QTEST(signal.relativeObservedLabel(observed + age), "label");
+        QTEST(signal.relativeObservedLabel(firstObserved + age), "label");
     }
 
     void readsTheTimeOfVerificationInEveryForm()
     {
         InformationSignal signal = sampleSignal(u"s"_qs);
         signal.observedAt = u"2026-09-02T00:00:00.500Z"_qs;
-        QCOMPARE(signal.relativeObservedLabel(observed + hour), u"刚刚核验"_qs);
+        QCOMPARE(signal.relativeObservedLabel(firstObserved + anHour), u"刚刚核验"_qs);
         signal.observedAt = u"2026-09-02T08:00:00+08:00"_qs;
-        QCOMPARE(signal.relativeObservedLabel(observed + hour), u"1 小时前核验"_qs);
+        QCOMPARE(signal.relativeObservedLabel(firstObserved + anHour), u"1 小时前核验"_qs);
         signal.observedAt = u"yesterday"_qs;
-        QCOMPARE(signal.relativeObservedLabel(observed), std::nullopt);
+        QCOMPARE(signal.relativeObservedLabel(firstObserved), std::nullopt);
     }
 
     void everyFieldCounts_data()

@@ -11,7 +11,6 @@
 
 #include <limits>
 
-using Kind = InformationUpdateNotice::ParseError::Kind;
 using Components = std::array<qint64, 3>;
 
 namespace {
@@ -53,6 +52,8 @@ auto parse(const QJsonObject& document)
 class InformationUpdateNoticeTest : public QObject
 {
     Q_OBJECT
+
+    using Kind = InformationUpdateNotice::ParseError::Kind;
 
 private Q_SLOTS:
     void theExampleOfTheFormat()

@@ -18,7 +18,7 @@ const QString filePath = u"/support/Corvanite/Information/workspace-v1.json"_qs;
 const QString previousPath = u"/support/Corvanite/Information/workspace-v1.previous.json"_qs;
 const InformationWorkspaceRepository repository{filePath};
 
-InformationWorkspace sampleWorkspace()
+InformationWorkspace workspaceToStore()
 {
     InformationWorkspace workspace;
     workspace.setKept(true, sampleSignal(u"a"_qs), std::chrono::sys_seconds(1'788'220'800s));
@@ -92,9 +92,9 @@ private Q_SLOTS:
     {
         const MemoryFileManager fileManager;
 
-        QVERIFY(repository.save(sampleWorkspace(), fileManager));
+        QVERIFY(repository.save(workspaceToStore(), fileManager));
 
-        QCOMPARE(repository.load(fileManager).value(), sampleWorkspace());
+        QCOMPARE(repository.load(fileManager).value(), workspaceToStore());
         QCOMPARE(fileManager.folders, QSet<QString>{u"/support/Corvanite/Information"_qs});
     }
 
@@ -201,7 +201,7 @@ private Q_SLOTS:
 
     void migrationLeavesTheRest()
     {
-        InformationWorkspace workspace = sampleWorkspace();
+        InformationWorkspace workspace = workspaceToStore();
         workspace.version = 1;
         workspace.seenTargets = {u"s1"_qs};
 
@@ -258,7 +258,7 @@ private Q_SLOTS:
             fileManager.files.insert(filePath, *stored);
         }
 
-        const auto saved = repository.saveOver(read, sampleWorkspace(), fileManager);
+        const auto saved = repository.saveOver(read, workspaceToStore(), fileManager);
 
         QCOMPARE(saved.has_value(), stored == read);
         QCOMPARE(fileManager.files.value(filePath), saved.value_or(stored.value_or(QByteArray())));
@@ -308,7 +308,7 @@ private Q_SLOTS:
         const FileError full{FileError::Reason::NoSpace};
         fileManager.writeFailures.insert(filePath, full);
 
-        const auto saved = repository.save(sampleWorkspace(), fileManager);
+        const auto saved = repository.save(workspaceToStore(), fileManager);
         QVERIFY(!saved);
         QCOMPARE(saved.error(), full);
         QCOMPARE(fileManager.files.value(filePath), QByteArray("{}"));

@@ -5,11 +5,7 @@
 
 #include <QTest>
 
-Q_DECLARE_METATYPE(JsonReader::Error)
-
 namespace {
-
-using Kind = JsonReader::Error::Kind;
 
 struct Pair
 {
@@ -29,6 +25,8 @@ Pair readPair(const JsonReader::Object& object)
 class JsonReaderTest : public QObject
 {
     Q_OBJECT
+
+    using Kind = JsonReader::Error::Kind;
 
 private Q_SLOTS:
     void readsEveryKindOfValue()

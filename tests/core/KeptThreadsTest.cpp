@@ -35,8 +35,6 @@ InformationWorkspace workspaceWith(const InformationWorkspace::SavedMap& saved,
 
 } // namespace
 
-Q_DECLARE_METATYPE(InformationWorkspace)
-
 class KeptThreadsTest : public QObject
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ QList<InformationSignal> fiveSignals()
     return signals;
 }
 
-SelectionDay day(const QString& date, const QList<QString>& ids)
+SelectionDay selectionDay(const QString& date, const QList<QString>& ids)
 {
     return {date, ids, 5};
 }
@@ -80,15 +80,16 @@ private Q_SLOTS:
     {
         QFETCH(QList<QString>, featured);
 
-        QTEST(focusIds(asOf, {day(u"2026-09-01"_qs, {u"c"_qs}), day(u"2026-09-02"_qs, featured)}),
+        QTEST(focusIds(asOf, {selectionDay(u"2026-09-01"_qs, {u"c"_qs}),
+                              selectionDay(u"2026-09-02"_qs, featured)}),
               "focus");
     }
 
     void onlyTheFirstEntryOfTheDayCounts()
     {
-        QCOMPARE(
-            focusIds(asOf, {day(u"2026-09-02"_qs, {u"d"_qs}), day(u"2026-09-02"_qs, {u"e"_qs})}),
-            QStringList{u"d"_qs});
+        QCOMPARE(focusIds(asOf, {selectionDay(u"2026-09-02"_qs, {u"d"_qs}),
+                                 selectionDay(u"2026-09-02"_qs, {u"e"_qs})}),
+                 QStringList{u"d"_qs});
     }
 
     void aStampThatNamesNoDayShowsTheComputedFocus_data()
@@ -105,13 +106,14 @@ private Q_SLOTS:
     {
         QFETCH(QString, stamp);
 
-        QCOMPARE(focusIds(stamp, {day(u""_qs, {u"e"_qs}), day(u"2026-09-02"_qs, {u"e"_qs})}),
+        QCOMPARE(focusIds(stamp, {selectionDay(u""_qs, {u"e"_qs}),
+                                  selectionDay(u"2026-09-02"_qs, {u"e"_qs})}),
                  (QStringList{u"a"_qs, u"b"_qs, u"c"_qs}));
     }
 
     void whatRemainsCompletesTheComputedFocus()
     {
-        const QList<SelectionDay> seedHistory{day(u"2026-09-02"_qs, {u"a"_qs, u"b"_qs})};
+        const QList<SelectionDay> seedHistory{selectionDay(u"2026-09-02"_qs, {u"a"_qs, u"b"_qs})};
         QCOMPARE(idsOf(TodayFocus::focused(fiveSignals(), {}, asOf, {}, seedHistory)),
                  (QStringList{u"c"_qs, u"d"_qs, u"e"_qs}));
         QCOMPARE(idsOf(TodayFocus::remaining(fiveSignals(), {}, asOf, seedHistory)),

@@ -15,7 +15,7 @@ using ColorScheme = AppearancePortal::ColorScheme;
 namespace {
 
 const auto service = u"org.freedesktop.portal.Desktop"_qs;
-const auto path = u"/org/freedesktop/portal/desktop"_qs;
+const auto portalPath = u"/org/freedesktop/portal/desktop"_qs;
 const auto interface = u"org.freedesktop.portal.Settings"_qs;
 const auto appearance = u"org.freedesktop.appearance"_qs;
 const auto animation = u"org.gnome.desktop.interface"_qs;
@@ -31,19 +31,19 @@ class Portal : public QObject
 public:
     Portal(QDBusConnection bus, Settings settings) : m_bus(bus), m_settings(std::move(settings))
     {
-        m_bus.registerObject(path, this, QDBusConnection::ExportScriptableSlots);
+        m_bus.registerObject(portalPath, this, QDBusConnection::ExportScriptableSlots);
         m_bus.registerService(service);
     }
 
     ~Portal() override
     {
-        m_bus.unregisterObject(path);
+        m_bus.unregisterObject(portalPath);
         m_bus.unregisterService(service);
     }
 
     void change(const QString& nameSpace, const QString& key, const QVariant& value)
     {
-        auto message = QDBusMessage::createSignal(path, interface, u"SettingChanged"_qs);
+        auto message = QDBusMessage::createSignal(portalPath, interface, u"SettingChanged"_qs);
         message << nameSpace << key << QVariant::fromValue(QDBusVariant(value));
         m_bus.send(message);
     }

@@ -10,7 +10,7 @@
 
 namespace {
 
-const auto path = u"/org/a11y/bus"_qs;
+const auto statusPath = u"/org/a11y/bus"_qs;
 const auto status = u"org.a11y.Status"_qs;
 const auto properties = u"org.freedesktop.DBus.Properties"_qs;
 
@@ -28,19 +28,19 @@ public:
     AccessibilityBus(QDBusConnection bus, bool enabled, bool screenReader)
         : m_bus(bus), m_enabled(enabled), m_screenReader(screenReader)
     {
-        m_bus.registerObject(path, this, QDBusConnection::ExportAllProperties);
+        m_bus.registerObject(statusPath, this, QDBusConnection::ExportAllProperties);
         m_bus.registerService(u"org.a11y.Bus"_qs);
     }
 
     ~AccessibilityBus() override
     {
-        m_bus.unregisterObject(path);
+        m_bus.unregisterObject(statusPath);
         m_bus.unregisterService(u"org.a11y.Bus"_qs);
     }
 
     void change(const QString& interface, const QString& name, bool value)
     {
-        auto message = QDBusMessage::createSignal(path, properties, u"PropertiesChanged"_qs);
+        auto message = QDBusMessage::createSignal(statusPath, properties, u"PropertiesChanged"_qs);
         message << interface << QVariantMap{{name, value}} << QStringList();
         m_bus.send(message);
     }

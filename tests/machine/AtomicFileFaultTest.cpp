@@ -18,9 +18,6 @@ namespace {
 
 using Reason = FileError::Reason;
 
-const QByteArray& oldBytes = FolderWithFile::oldBytes;
-const QByteArray& newBytes = FolderWithFile::newBytes;
-
 FileCallHook failingAt(int failingNumber, int error)
 {
     return {.before = [=](int number, const char*) {

@@ -9,13 +9,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-namespace {
-
-const QByteArray& oldBytes = FolderWithFile::oldBytes;
-const QByteArray& newBytes = FolderWithFile::newBytes;
-
-} // namespace
-
 /// What saves that were killed have left, and what removes it.
 class AtomicFileLeftoversTest : public QObject
 {

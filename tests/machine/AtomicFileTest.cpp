@@ -18,9 +18,6 @@ namespace {
 
 using Reason = FileError::Reason;
 
-const QByteArray& oldBytes = FolderWithFile::oldBytes;
-const QByteArray& newBytes = FolderWithFile::newBytes;
-
 } // namespace
 
 class AtomicFileTest : public QObject

@@ -38,8 +38,6 @@ void setMode(const QDir& root, const QString& name, mode_t mode)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Act)
-
 class FileWatchTest : public QObject
 {
     Q_OBJECT

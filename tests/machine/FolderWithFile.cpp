@@ -4,9 +4,6 @@
 
 #include "FileTree.h"
 
-const QByteArray FolderWithFile::oldBytes("old bytes");
-const QByteArray FolderWithFile::newBytes("the new bytes, which are longer");
-
 FolderWithFile::FolderWithFile()
 {
     writeFile(file(), oldBytes);

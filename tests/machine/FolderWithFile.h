@@ -10,14 +10,14 @@
 #include <expected>
 #include <optional>
 
+inline const QByteArray oldBytes("old bytes");
+/// To put in their place.
+inline const QByteArray newBytes("the new bytes, which are longer");
+
 /// A folder with one file in it, "file", that holds `oldBytes`.
 class FolderWithFile
 {
 public:
-    static const QByteArray oldBytes;
-    /// To put in their place.
-    static const QByteArray newBytes;
-
     FolderWithFile();
 
     QString path() const { return m_folder.path(); }

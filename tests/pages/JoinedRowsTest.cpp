@@ -8,8 +8,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace {
-
 struct Letter
 {
     Q_GADGET
@@ -21,6 +19,8 @@ public:
 
     friend bool operator==(const Letter&, const Letter&) = default;
 };
+
+namespace {
 
 QList<Letter> letters(const QString& text)
 {

@@ -34,8 +34,6 @@ QList<Row> rowsFrom(const QString& text)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Row)
-
 class RowListModelTest : public QObject
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DataFolder.h"
+#include "ErrorLeads.h"
 #include "NextStart.h"
 #include "OrdinaryUser.h"
 #include "ProgramStart.h"
@@ -21,8 +22,6 @@ namespace {
 using Standing = ProgramInstance::Standing;
 
 const QString noStorage = u"没有可用的本机存储；这次操作没有保存。"_qs;
-const QString notRead = u"已有信息没有被覆盖："_qs;
-const QString notSaved = u"没有保存这次操作："_qs;
 const QString mayNotWrite = u"没有写入权限；请检查数据目录的权限。"_qs;
 const QString mayNotRead = u"没有读取权限；请检查数据目录的权限。"_qs;
 const QString noOrdinaryFile = u"文件被占用或不是普通文件。"_qs;

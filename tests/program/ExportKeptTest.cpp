@@ -3,6 +3,7 @@
 #include "ExportKept.h"
 #include "DataFolder.h"
 #include "InformationSeed.h"
+#include "PrintableText.h"
 #include "ProgramStart.h"
 #include "Subject.h"
 
@@ -101,6 +102,18 @@ private Q_SLOTS:
         QCOMPARE(exported({.file = m_folder->path(u"kept.json"_qs), .workspace = {}}).exitCode, 0);
 
         QVERIFY(m_folder->content(u"kept.json"_qs).startsWith("{\n  \"schemaVersion\""));
+    }
+
+    void repeatsNoNameThatSteersTheTerminal()
+    {
+        const auto file = m_folder->path(u"kept\x1b[2J.md"_qs);
+
+        const auto answer = exported({.file = file, .workspace = {}});
+
+        QCOMPARE(answer.exitCode, 0);
+        QVERIFY(QFile::exists(file));
+        QCOMPARE(answer.text, u"收下的内容已写到“%1”。\n"_qs.arg(PrintableText::oneLine(file)));
+        QVERIFY(!answer.text.contains(u'\x1b'));
     }
 
     void saysWhatIsWrongWithTheWorkspace()

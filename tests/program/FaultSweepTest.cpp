@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ErrorLeads.h"
 #include "FaultedRun.h"
 #include "NextStart.h"
 #include "SiteDocuments.h"
@@ -8,60 +9,7 @@
 
 #include <QTest>
 
-namespace {
-
 using Moment = FaultedRun::Moment;
-
-const QString notSaved = u"没有保存这次操作："_qs;
-const QString notRead = u"已有信息没有被覆盖："_qs;
-const QString syncFailed = u"同步失败，继续使用当前内容"_qs;
-const QString storeElsewhere = u"store elsewhere"_qs;
-
-const QString storedAsOf = u"2090-01-01T00:00:00.000Z"_qs;
-const QString publishedAsOf = u"2090-01-02T00:00:00.000Z"_qs;
-const QStringList storedRetired{u"gone-1"_qs};
-const QStringList publishedRetired{u"gone-1"_qs, u"gone-2"_qs};
-
-constexpr qsizetype leastFaults = 3000;
-
-// What the data folder holds before the program starts.
-enum class Stored { Nothing, Files, FilesOfTheDay, LinkedWorkspace, FilesAndLeftover };
-
-struct Scenario
-{
-    Stored stored;
-    /// Done before, in the same run.
-    QStringList before;
-    QString action;
-    bool isStartSwept = false;
-
-    bool isRefresh() const { return action == u"refresh"; }
-    bool isSave() const { return !isRefresh() && action != u"catch up"; }
-    bool isWithElsewhere() const { return before.contains(storeElsewhere); }
-    /// The moments before and after the action, by their place in the run.
-    qsizetype momentBefore() const { return before.size(); }
-    qsizetype momentAfter() const { return before.size() + 1; }
-};
-
-const QMap<QString, Scenario> scenarios{
-    {u"the first action of all"_qs, {Stored::Nothing, {}, u"keep"_qs, true}},
-    {u"keep"_qs, {Stored::Files, {}, u"keep"_qs}},
-    {u"keep, later that day"_qs, {Stored::FilesOfTheDay, {}, u"keep"_qs}},
-    {u"keep in a linked file"_qs, {Stored::LinkedWorkspace, {}, u"keep"_qs}},
-    {u"keep after something else stored"_qs, {Stored::Files, {storeElsewhere}, u"keep"_qs}},
-    {u"catch up with something else"_qs, {Stored::Files, {storeElsewhere}, u"catch up"_qs}},
-    {u"remove"_qs, {Stored::Files, {u"keep"_qs}, u"remove"_qs}},
-    {u"note"_qs, {Stored::Files, {}, u"note"_qs}},
-    {u"see"_qs, {Stored::Files, {}, u"see"_qs}},
-    {u"reduce"_qs, {Stored::Files, {}, u"reduce"_qs}},
-    {u"add"_qs, {Stored::Files, {}, u"add"_qs}},
-    {u"remove source"_qs, {Stored::Files, {}, u"remove source"_qs}},
-    {u"reset"_qs, {Stored::Files, {}, u"reset"_qs, true}},
-    {u"reset beside a leftover"_qs, {Stored::FilesAndLeftover, {}, u"reset"_qs, true}},
-    {u"undo"_qs, {Stored::Files, {u"keep"_qs}, u"undo"_qs}},
-    {u"refresh"_qs, {Stored::Files, {}, u"refresh"_qs}},
-    {u"the first refresh"_qs, {Stored::Nothing, {}, u"refresh"_qs}},
-};
 
 // What a scenario does where nothing fails.
 struct Course
@@ -110,6 +58,57 @@ private:
     }
     // Of the first such call of the action; 0 for none.
     qsizetype numberOf(const QString& call) const { return calls.indexOf(call, before.calls) + 1; }
+};
+
+namespace {
+
+const QString syncFailed = u"同步失败，继续使用当前内容"_qs;
+const QString storeElsewhere = u"store elsewhere"_qs;
+
+const QString storedAsOf = u"2090-01-01T00:00:00.000Z"_qs;
+const QString publishedAsOf = u"2090-01-02T00:00:00.000Z"_qs;
+const QStringList storedRetired{u"gone-1"_qs};
+const QStringList publishedRetired{u"gone-1"_qs, u"gone-2"_qs};
+
+constexpr qsizetype leastFaults = 3000;
+
+// What the data folder holds before the program starts.
+enum class Stored { Nothing, Files, FilesOfTheDay, LinkedWorkspace, FilesAndLeftover };
+
+struct Scenario
+{
+    Stored stored;
+    /// Done before, in the same run.
+    QStringList before;
+    QString action;
+    bool isStartSwept = false;
+
+    bool isRefresh() const { return action == u"refresh"; }
+    bool isSave() const { return !isRefresh() && action != u"catch up"; }
+    bool isWithElsewhere() const { return before.contains(storeElsewhere); }
+    /// The moments before and after the action, by their place in the run.
+    qsizetype momentBefore() const { return before.size(); }
+    qsizetype momentAfter() const { return before.size() + 1; }
+};
+
+const QMap<QString, Scenario> scenarios{
+    {u"the first action of all"_qs, {Stored::Nothing, {}, u"keep"_qs, true}},
+    {u"keep"_qs, {Stored::Files, {}, u"keep"_qs}},
+    {u"keep, later that day"_qs, {Stored::FilesOfTheDay, {}, u"keep"_qs}},
+    {u"keep in a linked file"_qs, {Stored::LinkedWorkspace, {}, u"keep"_qs}},
+    {u"keep after something else stored"_qs, {Stored::Files, {storeElsewhere}, u"keep"_qs}},
+    {u"catch up with something else"_qs, {Stored::Files, {storeElsewhere}, u"catch up"_qs}},
+    {u"remove"_qs, {Stored::Files, {u"keep"_qs}, u"remove"_qs}},
+    {u"note"_qs, {Stored::Files, {}, u"note"_qs}},
+    {u"see"_qs, {Stored::Files, {}, u"see"_qs}},
+    {u"reduce"_qs, {Stored::Files, {}, u"reduce"_qs}},
+    {u"add"_qs, {Stored::Files, {}, u"add"_qs}},
+    {u"remove source"_qs, {Stored::Files, {}, u"remove source"_qs}},
+    {u"reset"_qs, {Stored::Files, {}, u"reset"_qs, true}},
+    {u"reset beside a leftover"_qs, {Stored::FilesAndLeftover, {}, u"reset"_qs, true}},
+    {u"undo"_qs, {Stored::Files, {u"keep"_qs}, u"undo"_qs}},
+    {u"refresh"_qs, {Stored::Files, {}, u"refresh"_qs}},
+    {u"the first refresh"_qs, {Stored::Nothing, {}, u"refresh"_qs}},
 };
 
 QString describe(const FaultPlan& plan, const Course& course)

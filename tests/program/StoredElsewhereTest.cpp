@@ -56,8 +56,6 @@ QList<qint64> stateOf(const QString& path)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Store)
-
 // What a sync service or another program does in the data folder while the program runs.
 class StoredElsewhereTest : public QObject
 {

@@ -7,6 +7,7 @@
 #include "WorkbenchTexts.h"
 
 #include <QTest>
+#include <QtTest/qtest_gui.h>
 
 /// The sheet that something is handed in with.
 class AddSourceViewTest : public QObject

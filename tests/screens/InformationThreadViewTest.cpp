@@ -8,6 +8,7 @@
 
 #include <QQmlProperty>
 #include <QTest>
+#include <QtTest/qtest_gui.h>
 
 /// The sheet with a signal's whole thread.
 class InformationThreadViewTest : public QObject

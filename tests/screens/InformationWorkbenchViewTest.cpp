@@ -11,6 +11,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QtTest/qtest_gui.h>
 
 #include <algorithm>
 #include <list>

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QSet>
 #include <QTest>
+#include <QtTest/qtest_gui.h>
 
 #include <algorithm>
 
@@ -31,12 +32,12 @@ bool isForUse(QQuickItem* item)
 }
 
 /// What a screen reader was told last to have the focus.
-QPointer<QObject> told;
+QPointer<QObject> lastFocus;
 
 void hear(QAccessibleEvent* event)
 {
     if (event->type() == QAccessible::Focus) {
-        told = event->object();
+        lastFocus = event->object();
     }
 }
 
@@ -167,7 +168,7 @@ private:
             }
             stops.append(focused);
             if (isForUse(focused)) {
-                if (told != focused) {
+                if (lastFocus != focused) {
                     m_faults.append(u"not told: "_qs + ScreenReader::name(focused));
                 }
                 window.settle();

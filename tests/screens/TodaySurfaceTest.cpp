@@ -4,6 +4,7 @@
 #include "Subject.h"
 
 #include <QTest>
+#include <QtTest/qtest_gui.h>
 
 #include <algorithm>
 

@@ -6,8 +6,6 @@
 #include <QTest>
 
 using Announced = std::optional<qint64>;
-Q_DECLARE_METATYPE(Announced)
-
 class BodyLengthTest : public QObject
 {
     Q_OBJECT

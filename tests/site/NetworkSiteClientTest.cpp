@@ -19,9 +19,6 @@ const QByteArray isGzipped = "Content-Encoding: gzip\r\n";
 
 } // namespace
 
-Q_DECLARE_METATYPE(LoopbackSite::Answer)
-Q_DECLARE_METATYPE(SiteReply)
-
 class NetworkSiteClientTest : public QObject
 {
     Q_OBJECT

@@ -19,8 +19,6 @@ const QByteArray newRetired = SiteDocuments::retired({u"old"_qs});
 
 } // namespace
 
-Q_DECLARE_METATYPE(LoopbackSite::Answer)
-
 class RefreshOverNetworkTest : public QObject
 {
     Q_OBJECT

@@ -8,8 +8,6 @@
 
 #include <optional>
 
-Q_DECLARE_METATYPE(LoopbackSite::Answer)
-
 class UpdateProbeOverNetworkTest : public QObject
 {
     Q_OBJECT

@@ -6,12 +6,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace {
-
-const QString path = u"/support/Corvanite/Information/workspace-v1.json"_qs;
-
-} // namespace
-
 // What something else stores while the program runs.
 class ForeignChangeTest : public QObject
 {
@@ -70,7 +64,7 @@ private Q_SLOTS:
     void changesNothingWhereItDoesNotRead()
     {
         m_model->toggleKeep(card(0));
-        m_sample.files.files.insert(path, R"({"version": 4})");
+        m_sample.files.files.insert(workspacePath, R"({"version": 4})");
         const auto shown = m_model->workspace();
 
         m_model->catchUpWithStorage();
@@ -80,7 +74,7 @@ private Q_SLOTS:
         m_model->toggleKeep(card(1));
         QCOMPARE(m_model->errorText(), u"没有保存这次操作：信息资料库版本 4 暂不受支持。"_qs);
         QCOMPARE(m_model->workspace(), shown);
-        QCOMPARE(m_sample.files.files.value(path), QByteArray(R"({"version": 4})"));
+        QCOMPARE(m_sample.files.files.value(workspacePath), QByteArray(R"({"version": 4})"));
     }
 
     void thatComesInRightBeforeASaveIsKeptAndShown()
@@ -117,11 +111,11 @@ private Q_SLOTS:
 
     void thatMakesTheFileReadAgainIsShown()
     {
-        m_sample.files.files.insert(path, "{");
+        m_sample.files.files.insert(workspacePath, "{");
         m_model = m_sample.make();
         m_model->toggleKeep(card(0));
         QCOMPARE(m_model->errorText(), u"没有可用的本机存储；这次操作没有保存。"_qs);
-        m_sample.files.files.remove(path);
+        m_sample.files.files.remove(workspacePath);
         keepElsewhere(1);
 
         m_model->catchUpWithStorage();

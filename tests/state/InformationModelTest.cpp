@@ -6,12 +6,6 @@
 
 #include <QTest>
 
-namespace {
-
-const QString workspacePath = u"/support/Corvanite/Information/workspace-v1.json"_qs;
-
-} // namespace
-
 class InformationModelTest : public QObject
 {
     Q_OBJECT

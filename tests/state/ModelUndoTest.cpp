@@ -6,12 +6,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace {
-
-const QString workspacePath = u"/support/Corvanite/Information/workspace-v1.json"_qs;
-
-} // namespace
-
 /// What can be undone, and what is left where storing fails.
 class ModelUndoTest : public QObject
 {

@@ -8,8 +8,6 @@
 
 using namespace RefreshSample;
 
-Q_DECLARE_METATYPE(SiteClient::Answer)
-
 /// What a refresh does with the pack.
 class RefreshTest : public QObject
 {

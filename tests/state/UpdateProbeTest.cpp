@@ -13,8 +13,6 @@ const FakeSiteClient::Request versionRequest{u"/information-app-version.json"_qs
 
 } // namespace
 
-Q_DECLARE_METATYPE(SiteClient::Answer)
-
 class UpdateProbeTest : public QObject
 {
     Q_OBJECT

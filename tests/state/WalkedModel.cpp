@@ -13,8 +13,6 @@ namespace {
 
 using Reason = FileError::Reason;
 
-const QString workspacePath = u"/support/Corvanite/Information/workspace-v1.json"_qs;
-
 // What goes through thousands of entries is looked at now and then only.
 constexpr int savesPerReading = 20;
 

@@ -9,6 +9,9 @@
 
 #include <memory>
 
+/// Where the files of a `SampleModel` hold its workspace.
+inline const QString workspacePath = u"/support/Corvanite/Information/workspace-v1.json"_qs;
+
 /// What a model is made of, to be varied by a test before it asks for the model.
 struct SampleModel
 {

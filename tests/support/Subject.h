@@ -21,6 +21,6 @@ int run(int argc, char* argv[]);
 /// Makes the class a subject of the executable that its file is compiled into.
 #define TEST_SUBJECT(Class)                                                                        \
     namespace {                                                                                    \
-    const bool isSubject = Subject::add(                                                           \
+    const bool is##Class##Subject = Subject::add(                                                  \
         #Class, []() -> std::unique_ptr<QObject> { return std::make_unique<Class>(); });           \
     }

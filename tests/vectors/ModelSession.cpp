@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr FileError injectedFailure{FileError::Reason::InputOutput};
-
 QString surfaceName(InformationModel::Surface surface)
 {
     const QString name = QString::fromLatin1(
@@ -106,7 +104,7 @@ QJsonValue ModelSession::perform(const QJsonObject& action)
         start(InformationContent::atStart(m_files));
     } else if (name == u"storageFails") {
         m_failureReason = action.value(QLatin1StringView("reason")).toString();
-        m_files.writeFailure = injectedFailure;
+        m_files.writeFailure = VectorFixtures::injectedFailure;
     } else if (name == u"storageWorks") {
         m_files.writeFailure.reset();
     } else {
@@ -135,7 +133,8 @@ QJsonObject ModelSession::state()
     }
     auto errorMessage = m_model->errorMessage();
     if (errorMessage) {
-        errorMessage->replace(injectedFailure.localizedDescription(), m_failureReason);
+        errorMessage->replace(VectorFixtures::injectedFailure.localizedDescription(),
+                              m_failureReason);
     }
     return {
         {u"surface"_qs, surfaceName(m_model->surface())},

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr FileError injectedFailure{FileError::Reason::InputOutput};
-
 // Sets the site's answer and, where the reply says so, lets storing it fail.
 void offer(const QJsonValue& reply, QLatin1StringView path, const QString& file,
            SampleModel& sample)
@@ -20,7 +18,7 @@ void offer(const QJsonValue& reply, QLatin1StringView path, const QString& file,
         VectorFixtures::document(object.value(QLatin1StringView("doc")).toObject()).value();
     sample.site->answers.insert(path, VectorFixtures::siteAnswer(reply, body));
     if (object.value(QLatin1StringView("saveFails")).toBool()) {
-        sample.files.writeFailures.insert(file, injectedFailure);
+        sample.files.writeFailures.insert(file, VectorFixtures::injectedFailure);
     }
 }
 

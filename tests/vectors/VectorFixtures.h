@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "FileError.h"
 #include "InformationSignal.h"
 #include "InformationWorkspace.h"
 #include "SelectionDay.h"
@@ -17,6 +18,9 @@
 
 /// The forms that cases share.
 namespace VectorFixtures {
+
+/// What a file operation that is to fail meets.
+inline constexpr FileError injectedFailure{FileError::Reason::InputOutput};
 
 /// The bytes of a document given as "text", "base64" or "parts"; nothing for "missing".
 std::optional<QByteArray> document(const QJsonObject& doc);
