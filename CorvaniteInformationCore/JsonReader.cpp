@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace {
 
@@ -74,6 +75,20 @@ QString JsonReader::fromUtf8(std::string_view utf8)
     m_units.resize(std::max(m_units.size(), utf8.size()));
     const char16_t* const end = decodeUtf8(utf8, m_units.data());
     return QString(reinterpret_cast<const QChar*>(m_units.data()), end - m_units.data());
+}
+
+// Names, labels and addresses come again and again: they are decoded once, and kept once.
+QString JsonReader::shared(std::string_view utf8)
+{
+    constexpr size_t longestRepeated = 96;
+    if (utf8.empty() || utf8.size() > longestRepeated) {
+        return fromUtf8(utf8);
+    }
+    Known& known = m_known[std::hash<std::string_view>()(utf8) % m_known.size()];
+    if (known.utf8 != utf8) {
+        known = {.utf8 = utf8, .text = fromUtf8(utf8)};
+    }
+    return known.text;
 }
 
 void JsonReader::fail(Error::Kind kind, std::string_view key)
@@ -186,7 +201,7 @@ std::string_view JsonReader::Object::utf8(std::string_view key,
 
 QString JsonReader::Object::text(std::string_view key, simdjson::dom::element element) const
 {
-    return m_reader->fromUtf8(utf8(key, element));
+    return m_reader->shared(utf8(key, element));
 }
 
 qint64 JsonReader::Object::wholeNumber(std::string_view key, simdjson::dom::element element) const

@@ -9,6 +9,7 @@
 
 #include <simdjson.h>
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -117,6 +118,7 @@ public:
 
 private:
     QString fromUtf8(std::string_view utf8);
+    QString shared(std::string_view utf8);
 
     void fail(Error::Kind kind, std::string_view key);
 
@@ -125,6 +127,14 @@ private:
     std::optional<Error> m_error;
     /// Where texts are decoded.
     std::u16string m_units;
+
+    struct Known
+    {
+        std::string_view utf8;
+        QString text;
+    };
+    /// The last texts that were read, each at the place of its hash.
+    std::array<Known, 1024> m_known;
 };
 
 template <typename Read>

@@ -148,7 +148,8 @@ struct Lists
                  .seedHistory = days,
                  .site = site,
                  .runningVersion = {}},
-                InformationContent(signals, {}, days, asOf), content.repository)
+                InformationContent(signals, {}, days, asOf),
+                WorkspaceJournal(content.repository, content.files))
     {
         model.setSearch(u"版"_qs);
     }

@@ -7,6 +7,7 @@
 #include "ExportKept.h"
 #include "FirstSize.h"
 #include "FontConfiguration.h"
+#include "FontFamilies.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
@@ -17,7 +18,9 @@
 #include "WindowActivation.h"
 
 #include <QDateTime>
+#include <QFont>
 #include <QGuiApplication>
+#include <QHashFunctions>
 #include <QIcon>
 #include <QImage>
 #include <QNetworkProxyFactory>
@@ -64,12 +67,26 @@ void introduce(const QString& version)
         QPixmap::fromImage(QImage(u":/corvanite/icons/app-icon-128.png"_qs, "PNG")));
 }
 
+// Every text looks up the application's font before it takes its own: so it is of a family that is
+// shown. It is never what the theme asks for, which a field would take for no font of its own.
+void chooseFont()
+{
+    QFont font = QGuiApplication::font();
+    font.setFamily(FontFamilies().sans());
+    QGuiApplication::setFont(font);
+}
+
 void chooseTextRendering(double devicePixelRatio)
 {
     constexpr double nativeTextBelowPixelRatio = 1.5;
     QQuickWindow::setTextRenderType(devicePixelRatio < nativeTextBelowPixelRatio
                                         ? QQuickWindow::NativeTextRendering
                                         : QQuickWindow::QtTextRendering);
+}
+
+QUrl screenFile(const QString& name)
+{
+    return QUrl(u"qrc:/qt/qml/CorvaniteInformation/Screens/"_qs + name);
 }
 
 } // namespace
@@ -84,6 +101,8 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     if (const auto* const keptExport = std::get_if<CommandLine::Export>(&request)) {
         return tell(exportKept(*keptExport, environment));
     }
+    // With a seed Qt 6.4 hashes short keys twenty times slower where there is AVX-512.
+    QHashSeed::setDeterministicGlobalSeed();
     const auto fontConfiguration = FontConfiguration::readAhead();
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     // Else a screen reader that starts later finds nothing: Qt 6.4 looks for one at the start
@@ -114,17 +133,18 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     if (parts.instance().standing() == ProgramInstance::Standing::Unanswered) {
         return tell(CommandLine::unanswered());
     }
-    if (!parts.model()) {
+    if (parts.instance().standing() == ProgramInstance::Standing::Later) {
         return EXIT_SUCCESS;
     }
 
     // Not an application engine: its file selectors would look for variants of every file.
     QQmlEngine engine;
     engine.addImportPath(u":/qt/qml"_qs);
-    QQmlComponent view(
-        &engine,
-        QUrl(
-            u"qrc:/qt/qml/CorvaniteInformation/Screens/Workbench/InformationWorkbenchView.qml"_qs));
+    QQmlComponent view(&engine, screenFile(u"Workbench/InformationWorkbenchView.qml"_qs));
+    // The engine reads it on a thread of its own while the window is made.
+    const QQmlComponent firstSurface(&engine, screenFile(u"Today/TodaySurface.qml"_qs),
+                                     QQmlComponent::Asynchronous);
+    chooseFont();
     const QSize size = FirstSize::within(QGuiApplication::primaryScreen()->availableSize());
     const std::unique_ptr<QObject> root(
         view.createWithInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},

@@ -19,11 +19,11 @@
 #include <utility>
 
 InformationModel::InformationModel(Collaborators collaborators, InformationContent content,
-                                   std::optional<InformationWorkspaceRepository> repository)
+                                   WorkspaceJournal journal)
     : m_collaborators(std::move(collaborators)),
       m_content(std::move(content)),
       m_threads(signals()),
-      m_journal(std::move(repository), m_collaborators.fileManager)
+      m_journal(std::move(journal))
 {
     m_errorMessage = m_journal.loadFailure();
 }

@@ -9,7 +9,6 @@
 #include "InformationSignal.h"
 #include "InformationUpdateNotice.h"
 #include "InformationWorkspace.h"
-#include "InformationWorkspaceRepository.h"
 #include "KeptThreads.h"
 #include "SelectionDay.h"
 #include "SiteClient.h"
@@ -65,10 +64,10 @@ public:
         QString runningVersion;
     };
 
-    /// Loads the workspace. A stored one that cannot be read is reported and never overwritten;
-    /// once it can be, it is shown and the next action is saved.
+    /// Where the journal could not read what is stored, that is reported and never overwritten;
+    /// once it can be read, it is shown and the next action is saved.
     InformationModel(Collaborators collaborators, InformationContent content,
-                     std::optional<InformationWorkspaceRepository> repository);
+                     WorkspaceJournal journal);
 
     // State
 

@@ -363,6 +363,29 @@ private Q_SLOTS:
         QCOMPARE(root.optionalString("absent as well"), std::nullopt);
         QVERIFY(!reader.error());
     }
+
+    void aRepeatedTextIsKeptOnce()
+    {
+        JsonReader reader(R"({"texts": ["一次", "另一次", "一次", "", ""]})");
+        const auto texts = reader.root().strings("texts");
+
+        QCOMPARE(texts, QStringList({u"一次"_qs, u"另一次"_qs, u"一次"_qs, {}, {}}));
+        QCOMPARE(texts.at(2).constData(), texts.at(0).constData());
+    }
+
+    void ofManyTextsEachStaysItself()
+    {
+        QStringList texts;
+        QByteArray document = "{\"texts\": [";
+        for (int number = 0; number < 5000; ++number) {
+            texts.append(u"第 %1 条"_qs.arg(number));
+            document.append('"' + texts.last().toUtf8() + "\",");
+        }
+        document.back() = ']';
+        JsonReader reader(document + '}');
+
+        QCOMPARE(reader.root().strings("texts"), texts);
+    }
 };
 
 TEST_SUBJECT(JsonReaderTest)

@@ -5,7 +5,8 @@
 #include "FakeSiteClient.h"
 #include "ProgramParts.h"
 
-/// A start of the program without its window, on 2 September 2026, with a site of its own.
+/// A start of the program without its window, on 2 September 2026, with a site of its own. What was
+/// stored has been read.
 struct ProgramStart
 {
     /// In seconds since 1970.
@@ -18,6 +19,7 @@ struct ProgramStart
                  .site = site,
                  .version = u"1.0.0"_qs})
     {
+        parts.model();
     }
 
     /// Only for a start that is not a later one.

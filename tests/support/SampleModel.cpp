@@ -30,6 +30,8 @@ std::unique_ptr<InformationModel> SampleModel::make(const InformationContent& co
             .runningVersion = runningVersion,
         },
         content,
-        hasRepository ? std::optional(InformationWorkspaceRepository::live(fileManager).value())
-                      : std::nullopt);
+        WorkspaceJournal(
+            hasRepository ? std::optional(InformationWorkspaceRepository::live(fileManager).value())
+                          : std::nullopt,
+            fileManager));
 }
