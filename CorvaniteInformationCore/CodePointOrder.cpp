@@ -24,5 +24,9 @@ char16_t codePointRank(QChar unit)
 
 bool codePointLess(QStringView left, QStringView right)
 {
-    return std::ranges::lexicographical_compare(left, right, {}, codePointRank, codePointRank);
+    const auto [differs, other] = std::ranges::mismatch(left, right);
+    if (differs == left.end() || other == right.end()) {
+        return other != right.end();
+    }
+    return codePointRank(*differs) < codePointRank(*other);
 }

@@ -90,9 +90,11 @@ InformationWorkspace::SavedMap readSaved(const JsonReader::Object& workspace)
     InformationWorkspace::SavedMap saved;
     if (const auto entries = workspace.optionalObject(Key::saved)) {
         entries->forEachMember([&saved](const QString& id, const JsonReader::Object& entry) {
-            saved.insert_or_assign(id, SavedInformation{.savedAt = readDate(entry, Key::savedAt),
-                                                        .saveReason = entry.string(Key::saveReason),
-                                                        .note = entry.string(Key::note)});
+            // They are stored in the order of their ids.
+            saved.insert_or_assign(saved.end(), id,
+                                   SavedInformation{.savedAt = readDate(entry, Key::savedAt),
+                                                    .saveReason = entry.string(Key::saveReason),
+                                                    .note = entry.string(Key::note)});
         });
     }
     return saved;

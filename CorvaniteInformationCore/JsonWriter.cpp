@@ -15,6 +15,12 @@ bool isEscaped(QChar character)
     return character == u'"' || character == u'\\' || character < u' ';
 }
 
+/// One character of ASCII that is written as it is.
+bool isPlain(char byte)
+{
+    return byte >= ' ' && byte <= '~' && byte != '"' && byte != '\\';
+}
+
 QByteArray escapeOf(char character)
 {
     switch (character) {
@@ -38,7 +44,7 @@ QByteArray escapeOf(char character)
 void JsonWriter::key(QAnyStringView name)
 {
     startLine();
-    quote(name.toString());
+    name.visit([this](auto text) { quoteName(text); });
     m_document += ": ";
     m_isAfterKey = true;
 }
@@ -101,6 +107,21 @@ void JsonWriter::breakLine()
 {
     m_document += '\n';
     m_document.append(m_filled.size() * indentation, ' ');
+}
+
+// A save writes thousands of names, nearly all of them as they stand.
+template <typename Text>
+void JsonWriter::quoteName(Text name)
+{
+    if constexpr (sizeof(*name.data()) == sizeof(char)) {
+        if (std::all_of(name.data(), name.data() + name.size(), isPlain)) {
+            m_document += '"';
+            m_document.append(name.data(), name.size());
+            m_document += '"';
+            return;
+        }
+    }
+    quote(name.toString());
 }
 
 void JsonWriter::quote(QStringView text)

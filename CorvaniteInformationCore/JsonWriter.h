@@ -34,6 +34,8 @@ private:
     void startValue();
     void startLine();
     void breakLine();
+    template <typename Text>
+    void quoteName(Text name);
     void quote(QStringView text);
     void appendUtf8(QStringView text);
 

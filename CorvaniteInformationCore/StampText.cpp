@@ -2,24 +2,35 @@
 
 #include "StampText.h"
 
-#include "DayText.h"
 #include "InformationProjection.h"
-#include "PaddedNumber.h"
 
 using namespace std::chrono;
 
+namespace {
+
+void writeDigits(QChar* begin, qsizetype width, int number)
+{
+    for (QChar* digit = begin + width; digit != begin; number /= 10) {
+        *--digit = QChar(u'0' + number % 10);
+    }
+}
+
+} // namespace
+
+// By hand, for a save writes thousands of them.
 QString StampText::of(sys_seconds time)
 {
     const sys_days day = floor<days>(time);
+    const year_month_day date{day};
     const hh_mm_ss clock{time - day};
-    QString text = DayText::of(day);
-    text.append(u'T');
-    appendPadded(text, static_cast<int>(clock.hours().count()), 2);
-    text.append(u':');
-    appendPadded(text, static_cast<int>(clock.minutes().count()), 2);
-    text.append(u':');
-    appendPadded(text, static_cast<int>(clock.seconds().count()), 2);
-    text.append(u'Z');
+    QString text = u"0000-00-00T00:00:00Z"_qs;
+    QChar* const characters = text.data();
+    writeDigits(characters, 4, int{date.year()});
+    writeDigits(characters + 5, 2, static_cast<int>(unsigned{date.month()}));
+    writeDigits(characters + 8, 2, static_cast<int>(unsigned{date.day()}));
+    writeDigits(characters + 11, 2, static_cast<int>(clock.hours().count()));
+    writeDigits(characters + 14, 2, static_cast<int>(clock.minutes().count()));
+    writeDigits(characters + 17, 2, static_cast<int>(clock.seconds().count()));
     return text;
 }
 

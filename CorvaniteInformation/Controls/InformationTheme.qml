@@ -163,6 +163,7 @@ QtObject {
     property bool reducedMotion: false
     readonly property int pressDuration: reducedMotion ? 0 : 80
     readonly property int hoverDuration: reducedMotion ? 0 : 100
+    readonly property int pageDuration: reducedMotion ? 0 : 120
     readonly property int surfaceDuration: reducedMotion ? 0 : 120
     readonly property int disclosureDuration: reducedMotion ? 0 : 200
     readonly property int chevronDuration: reducedMotion ? 0 : 160

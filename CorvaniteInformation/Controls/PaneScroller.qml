@@ -17,24 +17,41 @@ Item {
     readonly property real share: way > 0 ? (pane.contentY - firstY) / way : 0
     readonly property Item focused: pane.Window.activeFocusItem
 
-    /// The pane shows its beginning.
-    property bool atTop: true
+    /// Where what the pane shows began before that changed last.
+    property real formerFirstY: 0
 
     /// What is kept free above and below the item that is scrolled to.
     readonly property real air: 16
     readonly property real line: 48
     readonly property real leap: pane.height - line
 
-    // What was at its top stays there when the room above it changes.
-    onFirstYChanged: if (atTop)
-        pane.contentY = firstY
+    // What was at its top stays there when the room above it changes. A leap down also changes it,
+    // once the pane stands elsewhere.
+    onFirstYChanged: {
+        if (goal() <= formerFirstY) {
+            if (glide.running)
+                glideBy(firstY - goal());
+            else
+                scrollTo(firstY);
+        }
+        formerFirstY = firstY;
+    }
 
+    NumberAnimation {
+        id: glide
+
+        target: scroller.pane
+        property: "contentY"
+        duration: InformationTheme.pageDuration
+        easing.type: Easing.OutCubic
+    }
+
+    // By pointer or wheel.
     Connections {
         target: scroller.pane
 
-        function onContentYChanged() {
-            // Not firstY, which may still be due to change.
-            scroller.atTop = scroller.pane.contentY <= scroller.pane.originY - scroller.pane.topMargin;
+        function onMovementStarted() {
+            glide.stop();
         }
     }
 
@@ -55,10 +72,16 @@ Item {
     function reveal(item: Item, y: real, height: real) {
         const itemTop = item.mapToItem(pane.contentItem, 0, y).y - air;
         const itemBottom = itemTop + height + 2 * air;
+        glide.stop();
         if (itemBottom > pane.contentY + pane.height)
             scrollTo(itemBottom - pane.height);
         if (itemTop < pane.contentY)
             scrollTo(itemTop);
+    }
+
+    /// Where the pane comes to rest. Not a property: it would be late while the pane is laid out.
+    function goal(): real {
+        return glide.running ? glide.to : pane.contentY;
     }
 
     function scrollToTop() {
@@ -71,7 +94,20 @@ Item {
 
     function scrollTo(y: real) {
         pane.cancelFlick();
-        pane.contentY = Math.max(firstY, Math.min(lastY, y));
+        glide.stop();
+        pane.contentY = within(y);
+    }
+
+    /// Scrolls on from where the pane comes to rest, over some frames: the rows of a page are then not
+    /// all made in one.
+    function glideBy(distance: real) {
+        pane.cancelFlick();
+        glide.to = within(goal() + distance);
+        glide.restart();
+    }
+
+    function within(y: real): real {
+        return Math.max(firstY, Math.min(lastY, y));
     }
 
     function turn(key: int, modifiers: int): bool {
@@ -80,19 +116,19 @@ Item {
             return false;
         switch (key) {
         case Qt.Key_PageDown:
-            scrollTo(pane.contentY + leap);
+            glideBy(leap);
             return true;
         case Qt.Key_PageUp:
-            scrollTo(pane.contentY - leap);
+            glideBy(-leap);
             return true;
         case Qt.Key_Space:
-            scrollTo(pane.contentY + (modifiers & Qt.ShiftModifier ? -leap : leap));
+            glideBy(modifiers & Qt.ShiftModifier ? -leap : leap);
             return true;
         case Qt.Key_Down:
-            scrollTo(pane.contentY + line);
+            glideBy(line);
             return true;
         case Qt.Key_Up:
-            scrollTo(pane.contentY - line);
+            glideBy(-line);
             return true;
         case Qt.Key_Home:
             scrollToTop();

@@ -4,7 +4,10 @@
 #include "Subject.h"
 
 #include <QHash>
+#include <QMap>
 #include <QTest>
+
+#include <utility>
 
 namespace {
 
@@ -186,7 +189,65 @@ private Q_SLOTS:
         }
     }
 
+    // Its texts were first laid out for no width, a sign a line, and what stood below it moved when
+    // they got theirs.
+    void aRowIsMadeAsHighAsItStays_data()
+    {
+        QTest::addColumn<InformationModel::Surface>("surface");
+
+        QTest::newRow("today") << InformationModel::Surface::Today;
+        QTest::newRow("kept") << InformationModel::Surface::Kept;
+        QTest::newRow("weekly") << InformationModel::Surface::Weekly;
+        QTest::newRow("archive") << InformationModel::Surface::Archive;
+    }
+
+    void aRowIsMadeAsHighAsItStays()
+    {
+        QFETCH(const InformationModel::Surface, surface);
+        const ScreenTour::Stop stop{.name = {}, .act = [surface](InformationModel& model) {
+                                        model.toggleKeep(u"a"_qs);
+                                        model.setSurface(surface);
+                                    }};
+        ScreenTour::Visit visit(stop, {1120, 780});
+        QList<QQuickItem*> lists;
+        collectLists(visit.window().content(), lists);
+        QVERIFY(!lists.isEmpty());
+        for (auto* const list : std::as_const(lists)) {
+            const auto rows = list->property("model");
+            list->setProperty("model", QVariant());
+            list->setProperty("model", rows);
+            QMetaObject::invokeMethod(list, "forceLayout");
+            const auto made = rowHeights(list);
+            visit.window().settle();
+            QVERIFY(!made.isEmpty());
+            QCOMPARE(made, rowHeights(list));
+        }
+    }
+
 private:
+    static void collectLists(QQuickItem* item, QList<QQuickItem*>& lists)
+    {
+        if (item->isVisible() && isOfClass(item, "QQuickListView")) {
+            lists.append(item);
+        }
+        const auto children = item->childItems();
+        for (auto* const child : children) {
+            collectLists(child, lists);
+        }
+    }
+
+    static QMap<int, qreal> rowHeights(const QQuickItem* list)
+    {
+        QMap<int, qreal> heights;
+        const auto rows = list->property("contentItem").value<QQuickItem*>()->childItems();
+        for (const auto* const row : rows) {
+            if (const auto index = row->property("index"); index.isValid()) {
+                heights.insert(index.toInt(), row->height());
+            }
+        }
+        return heights;
+    }
+
     void inspectWindow(const WorkbenchWindow& window, QSize size, bool stretched)
     {
         m_faults.clear();

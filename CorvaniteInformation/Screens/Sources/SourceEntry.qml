@@ -33,11 +33,9 @@ Item {
     Column {
         id: texts
 
-        anchors.left: parent.left
-        anchors.leftMargin: 64
-        anchors.right: home.left
-        anchors.rightMargin: 24
+        x: 64
         y: 12
+        width: home.x - 24 - x
 
         AppText {
             width: parent.width
@@ -56,8 +54,7 @@ Item {
     LinkText {
         id: home
 
-        anchors.right: parent.right
-        anchors.rightMargin: 24
+        x: parent.width - 24 - width
         y: 8
         visible: entry.row.address !== ""
         text: "打开信源主页"

@@ -51,8 +51,7 @@ AppButton {
         id: chevron
 
         anchors.verticalCenter: parent.verticalCenter
-        anchors.right: parent.right
-        anchors.rightMargin: 24
+        x: parent.width - 24 - width
         path: IconPaths.unfold
         size: 18
         rotation: row.open ? 180 : 0

@@ -24,9 +24,8 @@ Item {
         id: sentence
 
         anchors.verticalCenter: parent.verticalCenter
-        anchors.left: icon.right
-        anchors.leftMargin: 8
-        anchors.right: reset.left
+        x: icon.width + 8
+        width: reset.x - x
         text: status.text
         textStyle: InformationTheme.small
         color: InformationTheme.ink2
@@ -36,8 +35,7 @@ Item {
         id: reset
 
         anchors.verticalCenter: parent.verticalCenter
-        anchors.right: parent.right
-        anchors.rightMargin: -rightPadding
+        x: parent.width - width + rightPadding
         text: "重置调整"
         restTint: InformationTheme.accent
         onClicked: status.resetPressed()

@@ -69,8 +69,7 @@ AppButton {
     AppText {
         id: badge
 
-        anchors.right: parent.right
-        anchors.rightMargin: line.overhang
+        x: parent.width - line.overhang - width
         y: 8
         text: line.row.badge
         textStyle: line.row.seen ? InformationTheme.meta : InformationTheme.metaBold

@@ -30,8 +30,10 @@ AppButton {
     SignalCardFace {
         id: face
 
-        anchors.fill: parent
-        anchors.margins: 24
+        // Not by anchors, which hold only once the texts are laid out.
+        x: 24
+        y: 24
+        width: parent.width - 48
         row: card.row
         onChangeToggled: card.changeToggled()
         onKeepToggled: card.keepToggled()

@@ -26,8 +26,7 @@ Item {
         id: square
 
         anchors.verticalCenter: lane.verticalCenter
-        anchors.right: lane.left
-        anchors.rightMargin: 6
+        x: lane.x - 6 - width
         visible: lane.visible
         color: entry.row.laneColor
     }
@@ -35,7 +34,7 @@ Item {
     AppText {
         id: lane
 
-        anchors.right: parent.right
+        x: parent.width - width
         anchors.baseline: title.baseline
         visible: entry.row.resolved
         text: entry.row.laneName
