@@ -41,6 +41,9 @@ HEADER_GROUND = (320, 8)
 """In the window: a place of the header that holds nothing."""
 
 
+Point = tuple[int, int]
+
+
 @dataclass(frozen=True)
 class Place:
     x: int
@@ -117,7 +120,22 @@ class Wayland:
     def place_when(self, holds: Callable[[Place], bool], what: str) -> Place:
         return wait_until(lambda: (place := self.place()) and holds(place) and place, what)
 
-    def drag(self, start: tuple[int, int], by: tuple[int, int]) -> None:
+    def drag_until_there(
+        self, grip: Callable[[Place], Point], way: Callable[[Place], Point], what: str
+    ) -> Place:
+        """Drags the window by its grip until there is no way left: what a busy weston begins late
+        to follow, it follows by less."""
+
+        def there() -> Place | None:
+            place = self.place()
+            if place and way(place) != (0, 0):
+                self._drag(grip(place), way(place))
+                return None
+            return place
+
+        return wait_until(there, what)
+
+    def _drag(self, start: Point, by: Point) -> None:
         steps = 10
         self._point_to(start, "mousedown")
         for step in range(1, steps + 1):
@@ -165,19 +183,17 @@ class WaylandTest(DesktopTest):
 
         with self.wayland() as wayland:
             program = wayland.start()
-            opened = wayland.place_when(lambda place: place.size == USUAL, "the window is there")
+            wayland.place_when(lambda place: place.size == USUAL, "the window is there")
 
             # Where a weston puts it differs from start to start.
-            target = (200, 100)
-            wayland.drag((opened.x + HEADER_GROUND[0], opened.y + HEADER_GROUND[1]),
-                         (target[0] - opened.x, target[1] - opened.y))
-            moved = wayland.place_when(
-                lambda place: (place.x, place.y) == target, "it has moved")
+            moved = wayland.drag_until_there(
+                lambda place: (place.x + HEADER_GROUND[0], place.y + HEADER_GROUND[1]),
+                lambda place: (200 - place.x, 100 - place.y), "it has moved")
             self.assertEqual(USUAL, moved.size)
 
-            wayland.drag((moved.x + moved.width - 2, moved.y + moved.height // 2), (-100, 0))
-            narrower = wayland.place_when(
-                lambda place: place.size == (USUAL[0] - 100, USUAL[1]), "it is narrower")
+            narrower = wayland.drag_until_there(
+                lambda place: (place.x + place.width - 2, place.y + place.height // 2),
+                lambda place: (USUAL[0] - 100 - place.width, 0), "it is narrower")
             self.assertEqual((moved.x, moved.y), (narrower.x, narrower.y))
 
             wayland.click((narrower.x + button[0] - 100, narrower.y + button[1]))

@@ -35,19 +35,18 @@ class WindowTest(DesktopTest):
             program = opened(world.start(PROGRAM))
             width, height = program.size()
             for times in (1, 2):
-                program.drag((program.size()[0] - 2, 300), (-60, 0))
                 wanted = (width - 60 * times, height)
+                program.drag((program.size()[0] - 2, 300), (-60, 0), lambda: program.size() == wanted)
                 program.wait_until(lambda: program.size() == wanted, "the window is narrower")
 
     def _drag_twice(self, program: Program) -> None:
         x, y = program.position()
         for times in (1, 2):
-            program.drag(HEADER, (80, 40))
             wanted = (x + 80 * times, y + 40 * times)
             trail = SLACK * times
-            program.wait_until(
-                lambda: near(program.position(), wanted, trail), f"it stands at {wanted}"
-            )
+            stands = lambda: near(program.position(), wanted, trail)
+            program.drag(HEADER, (80, 40), stands)
+            program.wait_until(stands, f"it stands at {wanted}")
 
 
 def near(point: tuple[int, int], other: tuple[int, int], distance: int) -> bool:
