@@ -2,6 +2,7 @@
 """A started program: its process, its window and what a screen reader sees of it."""
 
 from collections.abc import Callable, Mapping
+from contextlib import suppress
 from pathlib import Path
 from typing import TypeVar
 
@@ -13,6 +14,9 @@ from polling import PATIENCE, wait_until
 Result = TypeVar("Result")
 
 WINDOW_TITLE = "Corvanite Information"
+
+FELT = 4.0
+"""Seconds for which the pointer is held until a window follows."""
 
 PAINTED_BYTE_VALUES = 32
 """A window with text in it shows at least so many different values of a colour part."""
@@ -105,14 +109,28 @@ class Program:
         followed: Callable[[], bool] = lambda: True,
     ) -> None:
         """Drags by the pointer from the point in the window, in steps as a hand does, and holds it
-        until the window has `followed`."""
-        window, (x, y) = self.window(), self.position()
+        until the window has `followed`, or for a while: xfwm tells of some only at its end. What a busy
+        desktop did not feel is done again."""
+        self.wait_until(lambda: self._is_dragged(start, way, followed), "the drag is felt")
+
+    def _is_dragged(
+        self, start: tuple[int, int], way: tuple[int, int], followed: Callable[[], bool]
+    ) -> bool:
+        window, before = self.window(), (self.position(), self.size())
+        x, y = self.position()
         self._xdotool("mousemove", "--window", window, *map(str, start), "mousedown", "1")
         for step in (1, 5, 10, 20):
             goal = (x + start[0] + way[0] * step // 20, y + start[1] + way[1] * step // 20)
             self._xdotool("mousemove", "--sync", *map(str, goal))
-        self.wait_until(lambda: followed() or self._stir(goal), "the window has followed")
+        with suppress(TimeoutError):
+            wait_until(lambda: followed() or self._stir(goal), "it has followed", FELT)
         self._xdotool("mouseup", "1")
+        with suppress(TimeoutError):
+            wait_until(
+                lambda: followed() or (self.position(), self.size()) != before, "it is felt", FELT
+            )
+            return True
+        return False
 
     def _stir(self, point: tuple[int, int]) -> None:
         """A hand that holds is never still: who begins to look late sees it move."""
