@@ -2,16 +2,32 @@
 
 #include "TypeScale.h"
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace {
 
-QFont fontOf(const QString& family, int pixelSize, QFont::Weight weight)
+/// Of the weights of a family that are installed the one that is closest. Asked for itself, a
+/// weight that is not installed gets the same letters, but looked up and loaded once more.
+int installedWeight(const QString& family, int weight)
+{
+    const auto styles = QFontDatabase::styles(family);
+    const auto distance = [&family, weight](const QString& style) {
+        return std::abs(QFontDatabase::weight(family, style) - weight);
+    };
+    const auto closest = std::ranges::min_element(styles, {}, distance);
+    return closest == styles.cend() ? weight : QFontDatabase::weight(family, *closest);
+}
+
+QFont fontOf(const QString& family, int pixelSize, int weight)
 {
     QFont font;
     font.setFamily(family);
     font.setPixelSize(pixelSize);
-    font.setWeight(weight);
+    font.setWeight(QFont::Weight(installedWeight(family, weight)));
     return font;
 }
 
