@@ -15,7 +15,8 @@ Item {
     required property int firstStop
     required property int lastStop
 
-    /// How far beyond its edges the list is to hold rows meanwhile.
+    /// How far beyond its edges the list is to hold rows while they are made. They stay there until it
+    /// is laid out again, and then the focus is where it goes.
     property int above: 0
     property int below: 0
 
@@ -23,12 +24,6 @@ Item {
     /// Rows without a stop are not looked through any further.
     readonly property int farthest: 2400
     readonly property Item focused: scroller.focused
-
-    // The focus is where it goes, and what it went to is in sight.
-    onFocusedChanged: {
-        above = 0;
-        below = 0;
-    }
 
     Connections {
         target: RowReach
@@ -62,6 +57,7 @@ Item {
             below = list.displayMarginEnd + step;
             list.forceLayout();
         }
+        below = 0;
     }
 
     function makeAbove() {
@@ -69,6 +65,7 @@ Item {
             above = list.displayMarginBeginning + step;
             list.forceLayout();
         }
+        above = 0;
     }
 
     /// Where in the list the focus would go; beyond all rows where it would leave the list.

@@ -112,6 +112,14 @@ TestCase {
         verify(list.itemAtIndex(15));
     }
 
+    function test_noRowIsMadeThatIsNeitherSeenNorOnTheWay() {
+        walked(Qt.Key_Tab, 1);
+        const before = rowsMade;
+        walked(Qt.Key_Tab, 1);
+        // From row 6 on, and the rows that a step makes at once.
+        verify(rowsMade - before <= 10 + 3);
+    }
+
     function test_nothingIsMadeBeyondTheLastStop() {
         walked(Qt.Key_Tab, 1);
         list.lastStop = 5;
