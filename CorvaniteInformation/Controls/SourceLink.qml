@@ -60,7 +60,7 @@ AppButton {
     Icon {
         id: arrow
 
-        x: label.contentWidth + 4
+        x: Math.ceil(label.contentWidth) + 4
         anchors.bottom: label.bottom
         anchors.bottomMargin: (link.textStyle.lineHeight - height) / 2
         visible: link.enabled && link.hasArrow

@@ -264,6 +264,9 @@ private:
         if (isOfClass(item, "Pressable") && item->height() < leastTargetHeight(item)) {
             m_faults.append(u"hard to hit: "_qs + told(item));
         }
+        if (isOfClass(item, "QQuickPaintedItem") && !standsOnWholePixels(item)) {
+            m_faults.append(u"between pixels: "_qs + told(item->parentItem()));
+        }
         if (isOfClass(item, "QQuickFlickable") && !isOfClass(item, "QQuickTextEdit")) {
             inspectScroll(item);
         }
@@ -275,6 +278,15 @@ private:
             inspect(child, window, stretched);
         }
     }
+
+    /// Else it would be blurred.
+    static bool standsOnWholePixels(const QQuickItem* item)
+    {
+        const QPointF place = item->mapToScene(QPointF());
+        return isWhole(place.x()) && isWhole(place.y());
+    }
+
+    static bool isWhole(qreal length) { return std::abs(length - std::round(length)) < 0.01; }
 
     void inspectScroll(const QQuickItem* list)
     {

@@ -104,6 +104,7 @@ AppButton {
             spacing: 6
 
             AppText {
+                width: Math.ceil(implicitWidth)
                 text: section.row.closing
                 textStyle: TypeScale.small
                 color: InformationTheme.accent

@@ -108,10 +108,5 @@ Sheet {
             height: parent.height - y
             page: threadPage
         }
-
-        // Else an icon is seen on the sheet's header, and on the page behind it.
-        ClippedShapes {
-            pane: body
-        }
     }
 }

@@ -54,6 +54,7 @@ AppButton {
         x: parent.width - 24 - width
         path: IconPaths.unfold
         size: 18
+        color: InformationTheme.ink2
         rotation: row.open ? 180 : 0
 
         Behavior on rotation {

@@ -18,6 +18,7 @@ Item {
 
         anchors.verticalCenter: parent.verticalCenter
         path: IconPaths.adjusted
+        color: InformationTheme.ink2
     }
 
     AppText {

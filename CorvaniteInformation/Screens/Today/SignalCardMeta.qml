@@ -40,7 +40,7 @@ Row {
     Dot {}
 
     AppText {
-        width: Math.min(Math.max(16, implicitWidth), meta.width - x - 72)
+        width: Math.min(Math.max(16, Math.ceil(implicitWidth)), Math.floor(meta.width - x - 72))
         wrapMode: Text.NoWrap
         text: meta.row.timeLabel
         textStyle: TypeScale.meta

@@ -127,9 +127,6 @@ Window {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: footer.top
-            // Drawn before the frame: Qt 6.4 draws an icon that is scrolled out of sight as if nothing
-            // clipped it.
-            z: -1
             focus: true
             workbench: window.workbench
 
