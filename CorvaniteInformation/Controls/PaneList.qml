@@ -8,11 +8,14 @@ import CorvaniteInformation.Controls
 ListView {
     id: list
 
-    /// How far beyond its edges the list holds rows: once they are wanted, far enough for the Tab key
-    /// and a screen reader to go on. They are made at once. Rows that a cache buffer makes one by one
-    /// would stand in no place until it is their turn, and are asked for by their old places after the
-    /// list has shrunk.
-    property int reach: RowReach.far ? 2400 : 0
+    /// How far beyond its edges the list holds rows: far enough for a screen reader to go on. They are
+    /// made at once. Rows that a cache buffer makes one by one would stand in no place until it is
+    /// their turn, and are asked for by their old places after the list has shrunk.
+    property int reach: RowReach.readAloud ? 2400 : 0
+
+    /// The rows from the first to the last at which the Tab key can stop.
+    property int firstStop: 0
+    property int lastStop: count - 1
 
     readonly property alias scroller: scroller
 
@@ -20,18 +23,27 @@ ListView {
     cacheBuffer: 0
     clip: true
     currentIndex: -1
-    displayMarginBeginning: reach
-    displayMarginEnd: reach
+    displayMarginBeginning: Math.max(reach, wayOfTab.above)
+    displayMarginEnd: Math.max(reach, wayOfTab.below)
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: false
 
     Keys.forwardTo: [scroller]
 
-    // For the very key that wants them.
-    onReachChanged: forceLayout()
-
     ReadingOrder {
+        id: order
+
         items: list.contentItem
+    }
+
+    WayOfTab {
+        id: wayOfTab
+
+        list: list
+        scroller: scroller
+        order: order
+        firstStop: list.firstStop
+        lastStop: list.lastStop
     }
 
     // A press on the ground takes the keyboard into the pane; what has the focus there keeps it.

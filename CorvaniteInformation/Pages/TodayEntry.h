@@ -53,7 +53,7 @@ public:
 
     QString key() const
     {
-        return QString::number(static_cast<int>(kind)) + u':' + card.signalId + rail.signalId;
+        return QChar(u'0' + static_cast<int>(kind)) + card.signalId + rail.signalId;
     }
 
     friend bool operator==(const TodayEntry&, const TodayEntry&) = default;

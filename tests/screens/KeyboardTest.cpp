@@ -31,6 +31,14 @@ bool isForUse(QQuickItem* item)
            item->inherits("QQuickTextEdit");
 }
 
+bool hasALongList(const QString& stop)
+{
+    return QStringList{u"today"_qs,   u"today, everything unfolded"_qs,
+                       u"kept"_qs,    u"weekly"_qs,
+                       u"archive"_qs, u"archived day"_qs}
+        .contains(stop);
+}
+
 /// What a screen reader was told last to have the focus.
 QPointer<QObject> lastFocus;
 
@@ -81,6 +89,27 @@ private Q_SLOTS:
         QStringList unreached;
         collectUnreached(topmost(window), stops, unreached);
         QCOMPARE(unreached.join(u'\n'), QString());
+    }
+
+    // Lists hold just what is seen then.
+    void theTabKeyReachesTheSameWithoutAScreenReader_data()
+    {
+        QTest::addColumn<ScreenTour::Stop>("stop");
+        QTest::addColumn<QSize>("size");
+        for (const auto& stop : ScreenTour::stops()) {
+            for (const QSize size : {QSize(1120, 560), QSize(760, 560)}) {
+                if (hasALongList(stop.name)) {
+                    QTest::addRow("%s, %d", qPrintable(stop.name), size.width()) << stop << size;
+                }
+            }
+        }
+    }
+
+    void theTabKeyReachesTheSameWithoutAScreenReader()
+    {
+        QFETCH(const ScreenTour::Stop, stop);
+        QFETCH(const QSize, size);
+        QCOMPARE(namesOnTheWay(stop, size, false), namesOnTheWay(stop, size, true));
     }
 
     void theOrderOfTheTabKey()
@@ -177,6 +206,28 @@ private:
         }
         m_faults.append(u"the keys do not come round"_qs);
         return stops;
+    }
+
+    /// What the Tab key leads to up to the window's last stop, and back from there.
+    static QStringList namesOnTheWay(const ScreenTour::Stop& stop, QSize size, bool readAloud)
+    {
+        ScreenTour::Visit visit(stop, size);
+        const auto& window = visit.window();
+        window.window()->setProperty("readAloud", readAloud);
+        window.settle();
+        const auto press = [&window](Qt::Key key) {
+            window.pressKey(key);
+            return ScreenReader::name(window.window()->activeFocusItem());
+        };
+        constexpr qsizetype atMost = 100;
+        QStringList names{press(Qt::Key_Tab)};
+        while (names.constLast() != u"关闭窗口" && names.size() < atMost) {
+            names.append(press(Qt::Key_Tab));
+        }
+        for (auto back = names.size(); back > 1; --back) {
+            names.append(press(Qt::Key_Backtab));
+        }
+        return names;
     }
 
     /// What has the focus is seen to have it.

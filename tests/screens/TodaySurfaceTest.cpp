@@ -109,6 +109,40 @@ private Q_SLOTS:
         QVERIFY(window().hasFocus(u"打开脉络：Title of b"_qs, QAccessible::Button));
     }
 
+    void whereThatLineIsOutOfSightTheStopIsOneThatIsSeen_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QString>("list");
+
+        QTest::newRow("beside the cards") << QSize(1120, 780) << u"今日全部"_qs;
+        QTest::newRow("below them") << QSize(760, 560) << u"今天先看 3 条"_qs;
+    }
+
+    void whereThatLineIsOutOfSightTheStopIsOneThatIsSeen()
+    {
+        QFETCH(const QSize, size);
+        QFETCH(const QString, list);
+        m_visit.emplace(ScreenTour::Stop{.name = {},
+                                         .prepare =
+                                             [](SampleModel& sample) {
+                                                 addTen(sample, InformationLane::Workflow);
+                                                 addTen(sample, InformationLane::FounderStory);
+                                             }},
+                        size);
+        window().window()->setProperty("readAloud", false);
+        auto* const pane = find(list, QAccessible::List);
+        QMetaObject::invokeMethod(pane, "positionViewAtEnd");
+        window().settle();
+        const auto seen = pane->property("contentY").toReal();
+
+        constexpr int atMost = 40;
+        for (int i = 0; i < atMost && !focusedName().startsWith(u"打开脉络："); ++i) {
+            window().pressKey(Qt::Key_Tab);
+        }
+        QVERIFY(focusedName().startsWith(u"打开脉络："));
+        QCOMPARE(pane->property("contentY").toReal(), seen);
+    }
+
     void theArrowsChooseALane()
     {
         focus(u"全部 6"_qs, QAccessible::RadioButton);
@@ -317,6 +351,8 @@ private:
     {
         return window().find(name, role);
     }
+
+    QString focusedName() { return ScreenReader::name(window().window()->activeFocusItem()); }
 
     void focus(const QString& name, QAccessible::Role role)
     {

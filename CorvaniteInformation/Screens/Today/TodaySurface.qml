@@ -69,6 +69,7 @@ FocusScope {
         topMargin: surface.wide ? 40 : surface.twoPanes ? 32 : 24
         bottomMargin: (surface.twoPanes ? 24 : 32) + foot.height
         focus: true
+        lastStop: surface.twoPanes ? count - 1 : count - todayPage.railCount + surface.railStop
         model: joined
 
         Accessible.role: Accessible.List
@@ -108,6 +109,13 @@ FocusScope {
         }
     }
 
+    RailStop {
+        enabled: !surface.twoPanes
+        list: column
+        railStop: surface.railStop
+        onMoved: position => surface.railLine = position
+    }
+
     Optional {
         when: surface.twoPanes
 
@@ -117,7 +125,7 @@ FocusScope {
             height: surface.height
             page: todayPage
             railStop: surface.railStop
-            onLineFocused: position => surface.railLine = position
+            onStopMoved: position => surface.railLine = position
         }
     }
 }
