@@ -134,7 +134,7 @@ private Q_SLOTS:
         QFETCH(const bool, leftACard);
         ScreenTour::Visit visit({.name = {}}, {1120, 560});
         const auto& window = visit.window();
-        auto* const pane = window.find(u"今天先看 3 条"_qs, QAccessible::List);
+        auto* const pane = window.find(u"今天先看 3 条"_qs, QAccessible::LayeredPane);
         if (leftACard) {
             window.find(u"Title of a"_qs, QAccessible::ListItem)
                 ->forceActiveFocus(Qt::TabFocusReason);
