@@ -8,7 +8,7 @@ AppButton {
     id: link
 
     required property string address
-    property TextStyle textStyle: InformationTheme.small
+    property TextStyle textStyle: TypeScale.small
     property color restTint: InformationTheme.accent
     /// An arrow that leads out stands after the text.
     property bool hasArrow: true

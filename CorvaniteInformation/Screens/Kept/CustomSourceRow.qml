@@ -46,7 +46,7 @@ Pressable {
             AppText {
                 width: parent.width
                 text: control.row.status
-                textStyle: InformationTheme.small
+                textStyle: TypeScale.small
                 color: InformationTheme.ink2
             }
         }

@@ -43,13 +43,13 @@ AppButton {
             HeadingText {
                 width: parent.width
                 text: control.row.title
-                textStyle: InformationTheme.title3
+                textStyle: TypeScale.title3
             }
 
             AppText {
                 width: parent.width
                 text: control.row.status
-                textStyle: InformationTheme.small
+                textStyle: TypeScale.small
                 color: InformationTheme.ink2
                 maximumLineCount: InformationTheme.longestName
                 elide: Text.ElideRight

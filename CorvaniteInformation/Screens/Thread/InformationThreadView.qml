@@ -73,7 +73,7 @@ Sheet {
                 HeadingText {
                     width: parent.width
                     text: threadPage.title
-                    textStyle: InformationTheme.title1
+                    textStyle: TypeScale.title1
                     maximumLineCount: 3
                     elide: Text.ElideRight
                 }

@@ -27,7 +27,7 @@ Column {
             HeadingText {
                 width: parent.width
                 text: "更多原文"
-                textStyle: InformationTheme.smallBold
+                textStyle: TypeScale.smallBold
             }
         }
     }

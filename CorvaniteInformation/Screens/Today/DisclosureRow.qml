@@ -36,13 +36,13 @@ AppButton {
         AppText {
             width: parent.width
             text: row.text
-            textStyle: InformationTheme.bodyBold
+            textStyle: TypeScale.bodyBold
         }
 
         AppText {
             width: parent.width
             text: row.note
-            textStyle: InformationTheme.small
+            textStyle: TypeScale.small
             color: InformationTheme.ink2
         }
     }

@@ -27,7 +27,7 @@ Item {
         x: icon.width + 8
         width: reset.x - x
         text: status.text
-        textStyle: InformationTheme.small
+        textStyle: TypeScale.small
         color: InformationTheme.ink2
     }
 

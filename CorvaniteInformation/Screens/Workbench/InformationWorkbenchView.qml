@@ -23,7 +23,8 @@ Window {
     minimumHeight: 560
     visible: true
     title: "Corvanite Information"
-    flags: Qt.Window | Qt.FramelessWindowHint
+    // Not by `|`, which Qt 6.4 does not compile ahead of time; see WindowEdge.
+    flags: Qt.Window + Qt.FramelessWindowHint
     color: InformationTheme.canvas
 
     // After the first frame, which nothing may delay, and after no other.
