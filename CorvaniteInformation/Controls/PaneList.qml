@@ -19,6 +19,16 @@ ListView {
 
     readonly property alias scroller: scroller
 
+    /// The row that has gone from under the focus. It stays, unseen, until the focus goes on from the
+    /// place that it went to: a screen reader says nothing of that place once the one before it is no
+    /// more.
+    property Item leaving: null
+    /// The focus is on its way from the row that goes.
+    property bool removing: false
+
+    /// The keyboard was on the last row, which has gone.
+    signal lastRowRemoved
+
     boundsBehavior: Flickable.StopAtBounds
     cacheBuffer: 0
     clip: true
@@ -52,6 +62,15 @@ ListView {
             list.contentItem.forceActiveFocus(Qt.MouseFocusReason)
     }
 
+    Connections {
+        target: list.Window.window
+        enabled: !list.removing
+
+        function onActiveFocusItemChanged() {
+            list.leaving = null;
+        }
+    }
+
     PaneScroller {
         id: scroller
 
@@ -60,6 +79,18 @@ ListView {
 
     OverlayScrollBar {
         scroller: scroller
+    }
+
+    /// Has the row go by `removal`. Where the keyboard was on it, it goes on with what takes the row's
+    /// place.
+    function removeRow(index: int, removal: var) {
+        const byKeyboard = (Window.activeFocusItem as Pressable)?.visualFocus ?? false;
+        removing = byKeyboard;
+        leaving = byKeyboard ? itemAtIndex(index) : null;
+        removal();
+        if (byKeyboard && !focusRow(Math.min(index, count - 1)))
+            lastRowRemoved();
+        removing = false;
     }
 
     /// Gives the keyboard's focus to a row, which comes into sight from however far. Whether there is

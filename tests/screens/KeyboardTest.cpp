@@ -163,7 +163,7 @@ private Q_SLOTS:
         QFETCH(const bool, leftACard);
         ScreenTour::Visit visit({.name = {}}, {1120, 560});
         const auto& window = visit.window();
-        auto* const pane = window.find(u"今天先看 3 条"_qs, QAccessible::List);
+        auto* const pane = window.find(u"今天先看 3 条"_qs, QAccessible::LayeredPane);
         if (leftACard) {
             window.find(u"Title of a"_qs, QAccessible::ListItem)
                 ->forceActiveFocus(Qt::TabFocusReason);
@@ -233,8 +233,8 @@ private:
     /// What has the focus is seen to have it.
     void inspect(QQuickItem* focused)
     {
-        if (focused->inherits("Pressable") && !hasRing(focused)) {
-            m_faults.append(u"no ring: "_qs + ScreenReader::name(focused));
+        if (focused->inherits("Pressable")) {
+            inspectRing(focused);
         }
         const auto* const pane = ScreenReader::paneAround(focused->parentItem());
         if (!pane) {
@@ -247,11 +247,42 @@ private:
         }
     }
 
-    static bool hasRing(const QQuickItem* control)
+    void inspectRing(QQuickItem* control)
     {
-        return std::ranges::any_of(control->childItems(), [](const QQuickItem* child) {
+        const auto children = control->childItems();
+        const auto ring = std::ranges::find_if(children, [](const QQuickItem* child) {
             return child->metaObject()->indexOfProperty("shown") >= 0 && child->isVisible();
         });
+        if (ring == children.cend()) {
+            m_faults.append(u"no ring: "_qs + ScreenReader::name(control));
+        } else if (auto* const pane = ScreenReader::paneAround(control->parentItem())) {
+            inspectTexts(pane, control, ScreenReader::place(*ring));
+        }
+    }
+
+    /// Where a text shows: above and below its letters a line has room.
+    static QRectF lettersOf(const QQuickItem* text)
+    {
+        constexpr qreal room = 3;
+        auto place = ScreenReader::place(text);
+        place.setWidth(text->property("contentWidth").toReal());
+        return place.adjusted(0, room, 0, -room);
+    }
+
+    /// The ring stands on no text but its control's own.
+    void inspectTexts(QQuickItem* item, QQuickItem* control, const QRectF& ring)
+    {
+        if (!item->isVisible() || item == control) {
+            return;
+        }
+        if (item->inherits("QQuickText") && lettersOf(item).intersects(ring)) {
+            m_faults.append(u"the ring of “%1” stands on “%2”"_qs.arg(
+                ScreenReader::name(control), item->property("text").toString()));
+        }
+        const auto children = item->childItems();
+        for (auto* const child : children) {
+            inspectTexts(child, control, ring);
+        }
     }
 
     /// The open sheet, or the whole window.

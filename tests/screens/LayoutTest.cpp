@@ -239,13 +239,20 @@ private:
     static QMap<int, qreal> rowHeights(const QQuickItem* list)
     {
         QMap<int, qreal> heights;
-        const auto rows = list->property("contentItem").value<QQuickItem*>()->childItems();
-        for (const auto* const row : rows) {
-            if (const auto index = row->property("index"); index.isValid()) {
-                heights.insert(index.toInt(), row->height());
+        collectHeights(list->property("contentItem").value<QQuickItem*>(), heights);
+        return heights;
+    }
+
+    static void collectHeights(const QQuickItem* item, QMap<int, qreal>& heights)
+    {
+        const auto children = item->childItems();
+        for (const auto* const child : children) {
+            if (const auto index = child->property("index"); index.isValid()) {
+                heights.insert(index.toInt(), child->height());
+            } else {
+                collectHeights(child, heights);
             }
         }
-        return heights;
     }
 
     void inspectWindow(const WorkbenchWindow& window, QSize size, bool stretched)

@@ -54,7 +54,7 @@ private Q_SLOTS:
         QFETCH(const Qt::Key, forth);
         QFETCH(const Qt::Key, back);
         QFETCH(const Qt::KeyboardModifiers, backModifiers);
-        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::List);
+        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::LayeredPane);
         const auto top = list->property("contentY").toReal();
 
         window().pressKey(forth);
@@ -76,7 +76,7 @@ private Q_SLOTS:
     void aKeyWithAModifierTurnsNoPage()
     {
         QFETCH(const Qt::KeyboardModifiers, modifiers);
-        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::List);
+        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::LayeredPane);
         const auto top = list->property("contentY").toReal();
         for (const auto& key : {Qt::Key_Space, Qt::Key_PageDown, Qt::Key_Down, Qt::Key_End}) {
             window().pressKey(key, modifiers);
@@ -199,7 +199,7 @@ private Q_SLOTS:
     void theRemainingCardsUnfold()
     {
         window().window()->setProperty("reducedMotion", false);
-        auto* const surface = find(u"今天先看 3 条"_qs, QAccessible::List)->parentItem();
+        auto* const surface = find(u"今天先看 3 条"_qs, QAccessible::LayeredPane)->parentItem();
         ScreenReader::press(find(disclosure, QAccessible::Button));
         QCOMPARE(surface->property("unfolded").toReal(), 0.0);
         auto* const card = window().awaited(u"Title of d"_qs, QAccessible::ListItem);
@@ -304,7 +304,7 @@ private Q_SLOTS:
     void inOnePaneTheListFollowsTheCards()
     {
         window().resize({760, 560});
-        const auto* const column = find(u"今天先看 3 条"_qs, QAccessible::List);
+        const auto* const column = find(u"今天先看 3 条"_qs, QAccessible::LayeredPane);
         const auto* const line = find(u"打开脉络：Title of a"_qs, QAccessible::Button);
         QVERIFY(ScreenReader::isWithin(column, line));
         focus(u"打开脉络：Title of a"_qs, QAccessible::Button);

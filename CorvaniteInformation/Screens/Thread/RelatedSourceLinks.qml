@@ -19,6 +19,7 @@ Column {
 
         Column {
             width: links.width
+            bottomPadding: 4
             spacing: 16
 
             Hairline {}
