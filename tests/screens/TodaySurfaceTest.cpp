@@ -112,16 +112,20 @@ private Q_SLOTS:
     void whereThatLineIsOutOfSightTheStopIsOneThatIsSeen_data()
     {
         QTest::addColumn<QSize>("size");
-        QTest::addColumn<QString>("list");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QAccessible::Role>("role");
 
-        QTest::newRow("beside the cards") << QSize(1120, 780) << u"今日全部"_qs;
-        QTest::newRow("below them") << QSize(760, 560) << u"今天先看 3 条"_qs;
+        QTest::newRow("beside the cards")
+            << QSize(1120, 780) << u"今日全部"_qs << QAccessible::List;
+        QTest::newRow("below them")
+            << QSize(760, 560) << u"今天先看 3 条"_qs << QAccessible::LayeredPane;
     }
 
     void whereThatLineIsOutOfSightTheStopIsOneThatIsSeen()
     {
         QFETCH(const QSize, size);
-        QFETCH(const QString, list);
+        QFETCH(const QString, name);
+        QFETCH(const QAccessible::Role, role);
         m_visit.emplace(ScreenTour::Stop{.name = {},
                                          .prepare =
                                              [](SampleModel& sample) {
@@ -130,7 +134,7 @@ private Q_SLOTS:
                                              }},
                         size);
         window().window()->setProperty("readAloud", false);
-        auto* const pane = find(list, QAccessible::List);
+        auto* const pane = find(name, role);
         QMetaObject::invokeMethod(pane, "positionViewAtEnd");
         window().settle();
         const auto seen = pane->property("contentY").toReal();
