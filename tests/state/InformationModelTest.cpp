@@ -182,6 +182,12 @@ private Q_SLOTS:
         QVERIFY(!model->signalById(u"gone"_qs));
     }
 
+    void aPageOfTheSiteHasItsAddress()
+    {
+        QCOMPARE(m_sample.make()->sitePage(u"来源"_qs),
+                 u"https://corvanite.example/%E6%9D%A5%E6%BA%90"_qs);
+    }
+
     void tellsWhatAnActionDoesInOrder_data()
     {
         QTest::addColumn<bool>("fails");
