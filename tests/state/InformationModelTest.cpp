@@ -4,6 +4,7 @@
 #include "InformationProjection.h"
 #include "Subject.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 class InformationModelTest : public QObject
@@ -223,6 +224,19 @@ private Q_SLOTS:
         model->toggleKeep(u"a"_qs);
 
         QTEST(told, "told");
+    }
+
+    void aReceiptIsToldAnewWhereItsWordsStandThereAlready()
+    {
+        const auto model = m_sample.make();
+        model->toggleKeep(u"a"_qs);
+        const auto receipt = model->receipt();
+        const QSignalSpy told(model.get(), &InformationModel::receiptChanged);
+
+        model->toggleKeep(u"b"_qs);
+
+        QCOMPARE(model->receipt(), receipt);
+        QVERIFY(!told.isEmpty());
     }
 
     void changeSignalsFollowTheAssignment()
