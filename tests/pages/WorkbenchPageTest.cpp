@@ -60,6 +60,21 @@ private Q_SLOTS:
         QCOMPARE(shown.size(), 1);
     }
 
+    void aModelThatWasLeftIsNotFollowed()
+    {
+        SampleModel sample;
+        SampleModel otherSample;
+        const auto model = sample.make();
+        const auto other = otherSample.make();
+        CountedPage page;
+        page.setWorkbench(model.get());
+        page.setWorkbench(other.get());
+        QCOMPARE(page.count, 2);
+
+        model->toggleKeep(u"a"_qs);
+        QCOMPARE(page.count, 2);
+    }
+
     void isWorkedOutAgainOnlyWhereTheModelOrTheTimeHasMovedOn_data()
     {
         QTest::addColumn<bool>("changes");
