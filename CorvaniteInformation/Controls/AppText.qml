@@ -7,7 +7,7 @@ import CorvaniteInformation.Controls
 Text {
     id: text
 
-    property TextStyle textStyle: InformationTheme.body
+    property TextStyle textStyle: TypeScale.body
 
     color: InformationTheme.ink
     font: text.textStyle.font

@@ -21,7 +21,7 @@ T.TextField {
     leftPadding: 13
     rightPadding: 13
     verticalAlignment: Text.AlignVCenter
-    font: InformationTheme.body.font
+    font: TypeScale.body.font
     color: InformationTheme.ink
     selectionColor: InformationTheme.selection
     selectedTextColor: InformationTheme.ink

@@ -53,7 +53,7 @@ AppButton {
 
         AppText {
             text: control.text
-            textStyle: control.selected ? InformationTheme.captionBold : InformationTheme.caption
+            textStyle: control.selected ? TypeScale.captionBold : TypeScale.caption
             color: control.tint
             wrapMode: Text.NoWrap
             Accessible.ignored: true

@@ -8,7 +8,7 @@ LabelButton {
     implicitHeight: 38
     leftPadding: 16
     radius: InformationTheme.citrineRadius
-    textStyle: InformationTheme.citrineLabel
+    textStyle: TypeScale.citrineLabel
     tint: enabled ? InformationTheme.citrineInk : InformationTheme.ink3
     ground: !enabled ? InformationTheme.track : down ? InformationTheme.citrinePressed : InformationTheme.citrine
     outline: hovered && !down ? InformationTheme.citrineDark : "transparent"

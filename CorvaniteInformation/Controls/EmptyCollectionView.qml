@@ -44,7 +44,7 @@ Column {
         HeadingText {
             width: parent.width
             text: view.title
-            textStyle: InformationTheme.title1
+            textStyle: TypeScale.title1
             horizontalAlignment: Text.AlignHCenter
         }
 

@@ -6,5 +6,5 @@ import CorvaniteInformation.Controls
 /// The short bold line above a title.
 AppText {
     color: InformationTheme.accent
-    textStyle: InformationTheme.eyebrow
+    textStyle: TypeScale.eyebrow
 }

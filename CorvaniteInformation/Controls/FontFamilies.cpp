@@ -17,17 +17,15 @@ QString firstInstalled(const QStringList& families, const FontFamilies::IsInstal
 
 } // namespace
 
-FontFamilies::FontFamilies(QObject* parent)
+FontFamilies::FontFamilies()
     : FontFamilies([installed = QFontDatabase::families()](
                        const QString& family) { return installed.contains(family); },
-                   QFontDatabase::systemFont(QFontDatabase::GeneralFont).family(), parent)
+                   QFontDatabase::systemFont(QFontDatabase::GeneralFont).family())
 {
 }
 
-FontFamilies::FontFamilies(const IsInstalled& isInstalled, const QString& systemFamily,
-                           QObject* parent)
-    : QObject(parent),
-      m_sans(firstInstalled({u"Noto Sans CJK SC"_qs, u"Source Han Sans SC"_qs, u"PingFang SC"_qs,
+FontFamilies::FontFamilies(const IsInstalled& isInstalled, const QString& systemFamily)
+    : m_sans(firstInstalled({u"Noto Sans CJK SC"_qs, u"Source Han Sans SC"_qs, u"PingFang SC"_qs,
                              u"Microsoft YaHei"_qs},
                             isInstalled, systemFamily)),
       m_serif(firstInstalled({u"Noto Serif CJK SC"_qs, u"Source Han Serif SC"_qs, u"Songti SC"_qs},

@@ -5,7 +5,7 @@ import CorvaniteInformation.Controls
 
 /// A text that a screen reader lists among the headings.
 AppText {
-    textStyle: InformationTheme.title2
+    textStyle: TypeScale.title2
     maximumLineCount: InformationTheme.longestName
     elide: Text.ElideRight
 

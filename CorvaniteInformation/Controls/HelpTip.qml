@@ -26,7 +26,7 @@ T.ToolTip {
 
     contentItem: AppText {
         text: tip.text
-        textStyle: InformationTheme.small
+        textStyle: TypeScale.small
         wrapMode: Text.NoWrap
     }
 

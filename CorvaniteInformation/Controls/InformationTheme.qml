@@ -5,11 +5,9 @@ pragma Singleton
 import QtQuick
 import CorvaniteInformation.Controls
 
-/// The visual vocabulary of the program. The window's ground and the cards are the desktop's own
+/// The visual vocabulary of the program but for the type, which is TypeScale's. The window's ground and the cards are the desktop's own
 /// colours; every other colour is a constant of the light or the dark theme.
 QtObject {
-    id: theme
-
     readonly property SystemPalette desktop: SystemPalette {}
     readonly property bool dark: ThemeRules.isDark(canvas)
 
@@ -69,79 +67,7 @@ QtObject {
     readonly property color raisedShadow: Qt.alpha("#000000", dark ? 0.07 : 0.018)
     readonly property color sheetShadow: Qt.alpha("#000000", dark ? 0.06 : 0.016)
 
-    // Type
-    readonly property TextStyle display: TextStyle {
-        font: Qt.font({family: FontFamilies.serif, pixelSize: 28, bold: true})
-        lineHeight: 40
-    }
-    readonly property TextStyle title1: TextStyle {
-        font: Qt.font({family: FontFamilies.serif, pixelSize: 22, bold: true})
-        lineHeight: 32
-    }
-    readonly property TextStyle title2: TextStyle {
-        font: Qt.font({family: FontFamilies.serif, pixelSize: 19, bold: true})
-        lineHeight: 28
-    }
-    readonly property TextStyle title3: TextStyle {
-        font: Qt.font({family: FontFamilies.serif, pixelSize: 17, bold: true})
-        lineHeight: 28
-    }
-    readonly property TextStyle figure: TextStyle {
-        font: theme.title3.font
-        lineHeight: 24
-    }
-    readonly property TextStyle body: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 15})
-        lineHeight: 24
-    }
-    readonly property TextStyle bodyBold: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 15, bold: true})
-        lineHeight: 24
-    }
-    readonly property TextStyle brandName: TextStyle {
-        font: theme.bodyBold.font
-        lineHeight: 20
-    }
-    readonly property TextStyle small: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 13})
-        lineHeight: 20
-    }
-    readonly property TextStyle smallBold: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 13, bold: true})
-        lineHeight: 20
-    }
-    readonly property TextStyle caption: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 12})
-        lineHeight: 16
-    }
-    readonly property TextStyle captionBold: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 12, bold: true})
-        lineHeight: 16
-    }
-    readonly property TextStyle meta: TextStyle {
-        font: theme.caption.font
-        lineHeight: 20
-    }
-    readonly property TextStyle metaBold: TextStyle {
-        font: theme.captionBold.font
-        lineHeight: 20
-    }
-    readonly property TextStyle eyebrow: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 12, bold: true, letterSpacing: 0.6})
-        lineHeight: 16
-    }
-    readonly property TextStyle citrineLabel: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 13, weight: Font.DemiBold})
-        lineHeight: 20
-    }
-    readonly property TextStyle quietLabel: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 13, weight: Font.Medium})
-        lineHeight: 20
-    }
-    readonly property TextStyle syncLabel: TextStyle {
-        font: Qt.font({family: FontFamilies.sans, pixelSize: 12, weight: Font.DemiBold})
-        lineHeight: 16
-    }
+    // Texts
 
     /// A title, or whatever else names something, is cut off after so many lines.
     readonly property int longestName: 12

@@ -9,7 +9,7 @@ import CorvaniteInformation.Controls
 AppButton {
     id: control
 
-    property TextStyle textStyle: InformationTheme.quietLabel
+    property TextStyle textStyle: TypeScale.quietLabel
     property color tint: InformationTheme.ink
     property color iconTint: tint
     property real leftPadding: 0

@@ -25,7 +25,7 @@ AppText {
         id: bold
 
         text: paragraph.label
-        textStyle: InformationTheme.bodyBold
+        textStyle: TypeScale.bodyBold
         color: paragraph.color
         wrapMode: Text.NoWrap
         Accessible.ignored: true

@@ -12,7 +12,7 @@ LabelButton {
     implicitHeight: Math.max(32, label.implicitHeight)
     spacing: 4
     radius: 2
-    textStyle: InformationTheme.small
+    textStyle: TypeScale.small
     tint: down ? InformationTheme.ink2 : restTint
     iconSize: 14
     iconTrails: true

@@ -26,7 +26,7 @@ Column {
         HeadingText {
             width: parent.width
             text: intro.title
-            textStyle: InformationTheme.display
+            textStyle: TypeScale.display
         }
     }
 

@@ -24,6 +24,8 @@ Item {
     readonly property real air: 16
     readonly property real line: 48
     readonly property real leap: pane.height - line
+    /// How fast a way may begin, in pixels a millisecond: some 300 in a frame, a card's height.
+    readonly property real topSpeed: 18
 
     // What was at its top stays there when the room above it changes. A leap down also changes it,
     // once the pane stands elsewhere.
@@ -42,7 +44,6 @@ Item {
 
         target: scroller.pane
         property: "contentY"
-        duration: InformationTheme.pageDuration
         easing.type: Easing.OutCubic
     }
 
@@ -59,7 +60,7 @@ Item {
     onFocusedChanged: if (holds(focused) && (focused as Pressable)?.visualFocus !== false)
         reveal(focused, 0, focused.height)
 
-    Keys.onPressed: event => event.accepted = turn(event.key, event.modifiers)
+    Keys.onPressed: event => event.accepted = turn(event.key, event.modifiers, event.isAutoRepeat)
 
     function holds(item: Item): bool {
         let ancestor = item;
@@ -101,34 +102,51 @@ Item {
     /// Scrolls on from where the pane comes to rest, over some frames: the rows of a page are then not
     /// all made in one.
     function glideBy(distance: real) {
+        glideTo(goal() + distance);
+    }
+
+    /// As a key that is held does: never more than a page ahead, or the pane would go on without it.
+    function glideOn(distance: real) {
+        const ahead = goal() + distance - pane.contentY;
+        glideTo(pane.contentY + Math.max(-leap, Math.min(leap, ahead)));
+    }
+
+    function glideTo(y: real) {
         pane.cancelFlick();
-        glide.to = within(goal() + distance);
+        glide.to = within(y);
+        glide.duration = durationOf(Math.abs(glide.to - pane.contentY));
         glide.restart();
+    }
+
+    /// Of a way, which begins three times as fast as it is on the whole.
+    function durationOf(way: real): int {
+        return InformationTheme.reducedMotion ? 0 : Math.max(InformationTheme.pageDuration, 3 * way / topSpeed);
     }
 
     function within(y: real): real {
         return Math.max(firstY, Math.min(lastY, y));
     }
 
-    function turn(key: int, modifiers: int): bool {
+    function turn(key: int, modifiers: int, held: bool): bool {
         // The desktop's own keys, such as Alt+Space.
         if (modifiers & (Qt.AltModifier | Qt.ControlModifier | Qt.MetaModifier))
             return false;
+        const go = held ? glideOn : glideBy;
         switch (key) {
         case Qt.Key_PageDown:
-            glideBy(leap);
+            go(leap);
             return true;
         case Qt.Key_PageUp:
-            glideBy(-leap);
+            go(-leap);
             return true;
         case Qt.Key_Space:
-            glideBy(modifiers & Qt.ShiftModifier ? -leap : leap);
+            go(modifiers & Qt.ShiftModifier ? -leap : leap);
             return true;
         case Qt.Key_Down:
-            glideBy(line);
+            go(line);
             return true;
         case Qt.Key_Up:
-            glideBy(-line);
+            go(-line);
             return true;
         case Qt.Key_Home:
             scrollToTop();

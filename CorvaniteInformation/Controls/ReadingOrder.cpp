@@ -4,6 +4,16 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Where it begins to show. What has no height only holds others together.
+qreal topOf(QQuickItem* item)
+{
+    return item->y() + (item->height() > 0 ? 0 : item->childrenRect().y());
+}
+
+} // namespace
+
 void ReadingOrder::setItems(QQuickItem* items)
 {
     if (m_items == items) {
@@ -25,6 +35,8 @@ void ReadingOrder::watchChildren()
     const auto children = m_items->childItems();
     for (const QQuickItem* child : children) {
         connect(child, &QQuickItem::yChanged, this, &ReadingOrder::sortLater, Qt::UniqueConnection);
+        connect(child, &QQuickItem::childrenRectChanged, this, &ReadingOrder::sortLater,
+                Qt::UniqueConnection);
     }
     sortLater();
 }
@@ -45,10 +57,10 @@ void ReadingOrder::sort()
         return;
     }
     auto children = m_items->childItems();
-    if (std::ranges::is_sorted(children, {}, &QQuickItem::y)) {
+    if (std::ranges::is_sorted(children, {}, topOf)) {
         return;
     }
-    std::ranges::stable_sort(children, {}, &QQuickItem::y);
+    std::ranges::stable_sort(children, {}, topOf);
     for (qsizetype i = 1; i < children.size(); ++i) {
         children.at(i)->stackAfter(children.at(i - 1));
     }

@@ -23,13 +23,15 @@ public:
     QQuickItem* items() const { return m_items; }
     void setItems(QQuickItem* items);
 
+    /// At once, for who goes by the order right after the items have changed; else it is done soon.
+    Q_INVOKABLE void sort();
+
 Q_SIGNALS:
     void itemsChanged();
 
 private:
     void watchChildren();
     void sortLater();
-    void sort();
 
     QPointer<QQuickItem> m_items;
     bool m_sortPending = false;

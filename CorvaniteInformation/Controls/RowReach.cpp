@@ -7,17 +7,18 @@
 
 RowReach::RowReach(QObject* parent) : QObject(parent)
 {
-    m_far.setBinding([this] { return m_readAloud || m_tabbed; });
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-bool RowReach::eventFilter(QObject* /*receiver*/, QEvent* event)
+bool RowReach::eventFilter(QObject* receiver, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress) {
-        const auto key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
-            QCoreApplication::instance()->removeEventFilter(this);
-            m_tabbed = true;
+    // The window hands it on to one item after the other.
+    if (event->type() == QEvent::KeyPress && receiver->isWindowType()) {
+        const auto* const press = static_cast<QKeyEvent*>(event);
+        const bool back =
+            press->key() == Qt::Key_Backtab || press->modifiers().testFlag(Qt::ShiftModifier);
+        if (press->key() == Qt::Key_Tab || press->key() == Qt::Key_Backtab) {
+            Q_EMIT tabPressed(!back);
         }
     }
     return false;

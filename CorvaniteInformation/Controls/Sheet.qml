@@ -23,7 +23,9 @@ T.Dialog {
     }
 
     parent: T.Overlay.overlay
-    anchors.centerIn: parent
+    // On whole pixels, else its lines are blurred.
+    x: Math.round((parent.width - width) / 2)
+    y: Math.round((parent.height - height) / 2)
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape

@@ -8,7 +8,7 @@ AppButton {
     id: link
 
     required property string address
-    property TextStyle textStyle: InformationTheme.small
+    property TextStyle textStyle: TypeScale.small
     property color restTint: InformationTheme.accent
     /// An arrow that leads out stands after the text.
     property bool hasArrow: true
@@ -60,7 +60,7 @@ AppButton {
     Icon {
         id: arrow
 
-        x: label.contentWidth + 4
+        x: Math.ceil(label.contentWidth) + 4
         anchors.bottom: label.bottom
         anchors.bottomMargin: (link.textStyle.lineHeight - height) / 2
         visible: link.enabled && link.hasArrow

@@ -58,7 +58,7 @@ Rectangle {
         x: 9
         anchors.verticalCenter: parent.verticalCenter
         text: tag.text
-        textStyle: tag.kind === Tag.Neutral ? InformationTheme.caption : InformationTheme.captionBold
+        textStyle: tag.kind === Tag.Neutral ? TypeScale.caption : TypeScale.captionBold
         color: tag.ink
         wrapMode: Text.NoWrap
     }

@@ -6,6 +6,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+
+TextStyle::TextStyle(QFont font, int lineHeight, QObject* parent)
+    : QObject(parent), m_font(std::move(font)), m_lineHeight(lineHeight)
+{
+}
 
 int TextStyle::ownHeight() const
 {

@@ -34,6 +34,13 @@ public:
     /// Keys may repeat: equal keys are told apart by their order.
     void setRows(const QList<Row>& rows)
     {
+        // Most actions change rows where they stand.
+        if (std::ranges::equal(std::as_const(m_rows), rows, {}, &Row::key, &Row::key)) {
+            for (qsizetype position = 0; position < rows.size(); ++position) {
+                replace(position, rows.at(position));
+            }
+            return;
+        }
         removeRowsMissingFrom(rows);
         KeyCounts waiting = countKeys(m_rows);
         // From here on, every row before `position` is the wanted one.

@@ -23,7 +23,8 @@ struct TodayEntry
     Q_PROPERTY(bool isOfRail READ isOfRail CONSTANT FINAL)
     Q_PROPERTY(SignalCardRow card MEMBER card CONSTANT FINAL)
     Q_PROPERTY(RailLineRow rail MEMBER rail CONSTANT FINAL)
-    Q_PROPERTY(int foldingPosition MEMBER foldingPosition CONSTANT FINAL)
+    Q_PROPERTY(bool folds MEMBER folds CONSTANT FINAL)
+    Q_PROPERTY(int position MEMBER position CONSTANT FINAL)
 
 public:
     enum class Kind {
@@ -41,8 +42,10 @@ public:
     SignalCardRow card;
     /// With `Kind::RailLine`.
     RailLineRow rail;
-    /// From 0 among the cards that the disclosure opens and closes; -1 for what always shows.
-    int foldingPosition = -1;
+    /// The disclosure opens and closes it.
+    bool folds = false;
+    /// Of a card, from 0: among those that always show, or among those that fold.
+    int position = 0;
 
     bool isIntro() const { return kind == Kind::Intro; }
     bool isCard() const { return kind == Kind::Card; }
@@ -53,7 +56,7 @@ public:
 
     QString key() const
     {
-        return QString::number(static_cast<int>(kind)) + u':' + card.signalId + rail.signalId;
+        return QChar(u'0' + static_cast<int>(kind)) + card.signalId + rail.signalId;
     }
 
     friend bool operator==(const TodayEntry&, const TodayEntry&) = default;

@@ -53,8 +53,9 @@ QList<TodayEntry> cards(const InformationModel& workbench, const QList<Informati
 {
     QList<TodayEntry> cards;
     cards.reserve(signals.size());
-    for (const auto& signal : signals) {
+    for (int position = 0; const auto& signal : signals) {
         TodayEntry entry = entryOf(TodayEntry::Kind::Card);
+        entry.position = position++;
         entry.card =
             SignalCardRow::from(signal,
                                 {.kept = workbench.isKept(signal),
@@ -68,8 +69,8 @@ QList<TodayEntry> cards(const InformationModel& workbench, const QList<Informati
 
 QList<TodayEntry> folding(QList<TodayEntry> cards)
 {
-    for (int position = 0; auto& card : cards) {
-        card.foldingPosition = position++;
+    for (auto& card : cards) {
+        card.folds = true;
     }
     return cards;
 }
@@ -149,6 +150,8 @@ void TodayPage::show(const InformationModel& workbench)
         texts.remainingTitle = u"其余 %1 条已替你排好"_qs.arg(remaining.size());
     }
     texts.receiptRows = dataReceipt(filtered.size(), focused.size());
+    texts.focusedCount = static_cast<int>(focused.size());
+    texts.remainingCount = static_cast<int>(remaining.size());
     texts.railCount = static_cast<int>(filtered.size());
     texts.empty = visibleCount == 0;
     texts.laneEmpty = filtered.isEmpty() && !texts.empty;

@@ -35,6 +35,8 @@ class TodayPage : public WorkbenchPage
     /// Something is left, but nothing in the chosen lane.
     Q_PROPERTY(bool laneEmpty READ laneEmpty NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString remainingTitle READ remainingTitle NOTIFY textsChanged FINAL)
+    Q_PROPERTY(int focusedCount READ focusedCount NOTIFY textsChanged FINAL)
+    Q_PROPERTY(int remainingCount READ remainingCount NOTIFY textsChanged FINAL)
     Q_PROPERTY(int railCount READ railCount NOTIFY textsChanged FINAL)
     Q_PROPERTY(QList<LabelledTextRow> receiptRows READ receiptRows NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString updatedText READ updatedText CONSTANT FINAL)
@@ -60,6 +62,8 @@ public:
     bool empty() const { return m_texts.value().empty; }
     bool laneEmpty() const { return m_texts.value().laneEmpty; }
     const QString& remainingTitle() const { return m_texts.value().remainingTitle; }
+    int focusedCount() const { return m_texts.value().focusedCount; }
+    int remainingCount() const { return m_texts.value().remainingCount; }
     int railCount() const { return m_texts.value().railCount; }
     const QList<LabelledTextRow>& receiptRows() const { return m_texts.value().receiptRows; }
     static QString updatedText();
@@ -90,6 +94,8 @@ private:
         QString preferenceStatus;
         QString remainingTitle;
         QList<LabelledTextRow> receiptRows;
+        int focusedCount = 0;
+        int remainingCount = 0;
         int railCount = 0;
         bool empty = false;
         bool laneEmpty = false;

@@ -15,6 +15,7 @@
 #include "StemDarkening.h"
 #include "TerminationSignals.h"
 #include "TextLanguage.h"
+#include "TypeScale.h"
 #include "WindowActivation.h"
 
 #include <QDateTime>
@@ -22,7 +23,7 @@
 #include <QGuiApplication>
 #include <QHashFunctions>
 #include <QIcon>
-#include <QImage>
+#include <QImageReader>
 #include <QNetworkProxyFactory>
 #include <QPixmap>
 #include <QQmlComponent>
@@ -62,9 +63,14 @@ void introduce(const QString& version)
     QGuiApplication::setApplicationName(u"corvanite-information"_qs);
     QGuiApplication::setApplicationVersion(version);
     QGuiApplication::setDesktopFileName(u"example.corvanite.information"_qs);
-    // Its format is named: to guess it, Qt would load every image plugin there is.
-    QGuiApplication::setWindowIcon(
-        QPixmap::fromImage(QImage(u":/corvanite/icons/app-icon-128.png"_qs, "PNG")));
+}
+
+void chooseIcon()
+{
+    // Its format is not to be guessed, for which Qt loads every image plugin there is.
+    QImageReader icon(u":/corvanite/icons/app-icon-128.png"_qs, "png");
+    icon.setAutoDetectImageFormat(false);
+    QGuiApplication::setWindowIcon(QPixmap::fromImage(icon.read()));
 }
 
 // Every text looks up the application's font before it takes its own: so it is of a family that is
@@ -110,15 +116,6 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const QGuiApplication application(argc, argv);
     introduce(version);
-    chooseTextRendering(application.devicePixelRatio());
-    StemDarkening::switchOff();
-    TextLanguage::setChinese();
-
-    AppearancePortal appearance(QDBusConnection::sessionBus());
-    QObject::connect(&appearance, &AppearancePortal::colorSchemeChanged, [](auto colorScheme) {
-        QGuiApplication::setPalette(schemePalette(colorScheme));
-    });
-    const ScreenReaderStatus screenReader(QDBusConnection::sessionBus());
 
     const auto site = ProductSite::fromOrigin(siteOrigin);
     if (!site) {
@@ -140,11 +137,25 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     // Not an application engine: its file selectors would look for variants of every file.
     QQmlEngine engine;
     engine.addImportPath(u":/qt/qml"_qs);
-    QQmlComponent view(&engine, screenFile(u"Workbench/InformationWorkbenchView.qml"_qs));
-    // The engine reads it on a thread of its own while the window is made.
+    // The engine reads the screens on a thread of its own; meanwhile everything else is made ready.
+    const QUrl viewFile = screenFile(u"Workbench/InformationWorkbenchView.qml"_qs);
+    const QQmlComponent viewAhead(&engine, viewFile, QQmlComponent::Asynchronous);
+
+    chooseIcon();
+    chooseTextRendering(application.devicePixelRatio());
+    StemDarkening::switchOff();
+    TextLanguage::setChinese();
+    AppearancePortal appearance(QDBusConnection::sessionBus());
+    QObject::connect(&appearance, &AppearancePortal::colorSchemeChanged, [](auto colorScheme) {
+        QGuiApplication::setPalette(schemePalette(colorScheme));
+    });
+    const ScreenReaderStatus screenReader(QDBusConnection::sessionBus());
+    chooseFont();
+    TypeScale().lookUpFonts();
+
+    QQmlComponent view(&engine, viewFile);
     const QQmlComponent firstSurface(&engine, screenFile(u"Today/TodaySurface.qml"_qs),
                                      QQmlComponent::Asynchronous);
-    chooseFont();
     const QSize size = FirstSize::within(QGuiApplication::primaryScreen()->availableSize());
     const std::unique_ptr<QObject> root(
         view.createWithInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},

@@ -53,7 +53,7 @@ TestCase {
     }
 
     function test_linesHaveTheHeightOfTheScale(row) {
-        const style = InformationTheme[row.tag];
+        const style = TypeScale[row.tag];
         const text = createTemporaryObject(plain, test, {textStyle: style, text: "一行\n两行\n三行 with Latin"});
         compare(text.height, 3 * style.lineHeight);
         compare(text.font.pixelSize, style.font.pixelSize);

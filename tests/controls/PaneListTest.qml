@@ -84,6 +84,27 @@ TestCase {
         tryCompare(list, "contentY", before + 2 * list.scroller.leap - list.scroller.line);
     }
 
+    function test_aKeyThatIsHeldIsNeverMoreThanAPageAhead() {
+        InformationTheme.reducedMotion = false;
+        const before = list.contentY;
+        const press = (key, held) => list.scroller.turn(key, Qt.NoModifier, held);
+        press(Qt.Key_PageDown, false);
+        press(Qt.Key_PageDown, true);
+        press(Qt.Key_PageDown, true);
+        compare(list.scroller.goal(), before + list.scroller.leap);
+        press(Qt.Key_Up, true);
+        compare(list.scroller.goal(), before + list.scroller.leap - list.scroller.line);
+    }
+
+    // The rows of many pages would be made in few frames.
+    function test_aLongWayTakesLonger() {
+        InformationTheme.reducedMotion = false;
+        compare(list.scroller.durationOf(600), InformationTheme.pageDuration);
+        compare(list.scroller.durationOf(6000), 1000);
+        InformationTheme.reducedMotion = true;
+        compare(list.scroller.durationOf(6000), 0);
+    }
+
     function test_whatTakesTheListElsewhereEndsItsWay_data() {
         return [
             {tag: "a key", act: () => keyClick(Qt.Key_End)},

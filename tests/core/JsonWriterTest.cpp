@@ -108,6 +108,20 @@ private Q_SLOTS:
         QCOMPARE(written(QUtf8StringView(name.toUtf8())), written(name));
     }
 
+    // The writer looks at many characters in one step.
+    void escapesWhereverItStands()
+    {
+        constexpr qsizetype length = 40;
+        for (qsizetype at = 0; at < length; ++at) {
+            const auto before = u"中"_qs.repeated(at);
+            const auto after = u"中"_qs.repeated(length - at);
+            JsonWriter writer;
+            writer.string(before + u'"' + after);
+            QCOMPARE(writer.document(),
+                     (u"\""_qs + before + u"\\\""_qs + after + u"\"\n"_qs).toUtf8());
+        }
+    }
+
     void everyCharacterReadsBack()
     {
         QString text;

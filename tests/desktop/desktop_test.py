@@ -43,10 +43,11 @@ class DesktopTest(unittest.TestCase):
         screen: tuple[int, int] = (1920, 1200),
         screen_reader: bool = True,
         window_manager: Sequence[str] = World.OPENBOX,
+        scale: float = 1,
     ) -> Iterator[World]:
         """A world for this test. A failure leaves pictures, trees and messages behind; a program
         that prints a message, as Qt does for every warning, is a failure."""
-        with World(scheme, screen, screen_reader, window_manager) as world:
+        with World(scheme, screen, screen_reader, window_manager, scale) as world:
             try:
                 yield world
                 for program in world.programs():

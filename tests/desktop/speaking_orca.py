@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: Apache-2.0
-"""Runs Orca, the screen reader, as a Chinese reader has it; what it would speak goes to a file, an
-utterance a line. The variable SPOKEN names the file. Another, which IDLE names, tells how often Orca
-has looked for work until now, and how often of late in vain.
+"""Runs Orca, the screen reader, as a Chinese reader has it who also wants to be told places; what it
+would speak goes to a file, an utterance a line. The variable SPOKEN names the file. Another, which
+IDLE names, tells how often Orca has looked for work until now, and how often of late in vain.
 
 It takes the place of Orca's own command, which refuses to start beside an Orca of the same user.
 Orca asks the module that `speechServerFactory` names for its speech server: this one.
@@ -22,6 +22,7 @@ SETTINGS = {
     "enableKeyEcho": False,
     "enableBraille": False,
     "enableSound": False,
+    "enablePositionSpeaking": True,
 }
 
 

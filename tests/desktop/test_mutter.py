@@ -20,7 +20,9 @@ GSETTINGS_BACKEND=keyfile exec mutter --x11 --sm-disable
 """
 
 
-class MutterTest(window_manager_test.WindowManagerTest, DesktopTest):
+class MutterTest(
+    window_manager_test.WindowManagerTest, window_manager_test.KeyMoveTest, DesktopTest
+):
     WINDOW_MANAGER = ("sh", "-c", START)
 
     def test_it_snaps_to_an_edge_of_the_screen_and_away(self) -> None:

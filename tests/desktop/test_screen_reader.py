@@ -29,15 +29,18 @@ SESSION = [
     *("Tab", "Tab", "Tab", "Tab", "Return", "Escape", "shift+Tab", "shift+Tab"),
     # Its thread and a note
     *("Return", "Tab", "Tab", "Tab", TYPED + "read on Friday", "Escape"),
-    # On to the third card and the rest of the day
-    *("Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab"),
-    *("Down", "End"),
+    # On to the third card and the remaining ones
+    *("Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab"),
+    *("Return", "Tab", "shift+Tab", "Return"),
+    # The list of the whole day
+    *("Tab", "Down", "End"),
     # The third card is not wanted
     *("shift+Tab", "shift+Tab", "Return", "ctrl+z"),
     # One lane, and what has changed in it
     *("Tab", "Right", "Right", "Right", "Tab", "Tab", "Tab", "Return", "Return"),
     # The other surfaces
-    *("ctrl+2", "Tab", "Tab", "Tab", "ctrl+f", TYPED + "zzz", "Escape"),
+    *("ctrl+2", "Tab", "Tab", "Tab", "Tab", "Tab", "Return", "ctrl+z"),
+    *("ctrl+f", TYPED + "zzz", "Escape"),
     *("ctrl+3", "Tab", "ctrl+4", "Tab", "Tab", "Tab", "Return", "Tab", "alt+Left"),
     *("ctrl+5", "Tab"),
     # A hand-in that is refused, and a sync that fails

@@ -44,7 +44,8 @@ class World:
     """Use it in a `with`; on leaving it stops what it started and removes its folders.
 
     `scheme`, "light" or "dark", is what the desktop's appearance portal says; without one there
-    is no portal. `screen_reader` is what the desktop says of one.
+    is no portal. `screen_reader` is what the desktop says of one. `scale` is how much larger the reader
+    has set everything, as desktops on X11 say it.
     """
 
     OPENBOX = ("openbox", "--sm-disable")
@@ -55,11 +56,13 @@ class World:
         screen: tuple[int, int] = (1920, 1200),
         screen_reader: bool = True,
         window_manager: Sequence[str] = OPENBOX,
+        scale: float = 1,
     ):
         self._scheme = scheme
         self._screen_reader = screen_reader
         self._screen = screen
         self._window_manager = window_manager
+        self._scale = scale
         self._processes: list[OwnProcess] = []
         self._programs: list[Program] = []
 
@@ -75,6 +78,8 @@ class World:
             self._start_session_bus()
             self._start_accessibility()
             self._start_window_manager()
+            if self._scale != 1:
+                self._set_scale()
             if self._scheme:
                 self._start_appearance_portal(self._scheme)
         except BaseException:
@@ -205,6 +210,11 @@ class World:
         command = ["Xvfb", "-displayfd", "{descriptor}", "-screen", "0", f"{width}x{height}x24"]
         number = self._run_until_told("screen", [*command, "-nolisten", "tcp", "-noreset"])
         self.environment["DISPLAY"] = f":{number}"
+
+    def _set_scale(self) -> None:
+        resources = f"Xft.dpi:\t{round(96 * self._scale)}\n"
+        setting = ["-f", "RESOURCE_MANAGER", "8s", "-set", "RESOURCE_MANAGER", resources]
+        answer_of(["xprop", "-root", *setting], self.environment)
 
     def _start_session_bus(self) -> None:
         configuration = self.folder / "bus.conf"

@@ -210,7 +210,7 @@ private Q_SLOTS:
 
         QList<int> positions;
         for (const auto& entry : page.entries()->rows()) {
-            positions.append(entry.foldingPosition);
+            positions.append(entry.folds ? entry.position : -1);
         }
         QCOMPARE(positions, (QList{-1, -1, -1, -1, -1, 0, 1}));
     }

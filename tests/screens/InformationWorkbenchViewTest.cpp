@@ -132,7 +132,7 @@ private Q_SLOTS:
 
     void aSurfaceStaysAsItWasLeft()
     {
-        auto* const list = m_window->find(u"今天先看 2 条"_qs, QAccessible::List);
+        auto* const list = m_window->find(u"今天先看 2 条"_qs, QAccessible::LayeredPane);
         QVERIFY(list);
         m_window->resize({1120, 560});
         m_window->pressKey(Qt::Key_PageDown);
@@ -162,7 +162,7 @@ private Q_SLOTS:
             return drawn.copy(1, 1, 1118, 62);
         };
         const auto before = frame();
-        auto* const list = m_window->find(u"今天先看 2 条"_qs, QAccessible::List);
+        auto* const list = m_window->find(u"今天先看 2 条"_qs, QAccessible::LayeredPane);
         for (int y = 200; y < 700; y += 20) {
             list->setProperty("contentY", y);
             QVERIFY2(frame() == before, qPrintable(QString::number(y)));
@@ -615,7 +615,7 @@ private Q_SLOTS:
         m_window->pressKey(Qt::Key_Return);
         QTRY_VERIFY(!m_window->find(u"链接或一句话"_qs, QAccessible::EditableText));
         QCOMPARE(m_model->surface(), Surface::Kept);
-        auto* const kept = m_window->find(u"已收下"_qs, QAccessible::List);
+        auto* const kept = m_window->find(u"已收下"_qs, QAccessible::LayeredPane);
         QTRY_VERIFY(ScreenReader::isWithin(kept, m_window->window()->activeFocusItem()));
     }
 
@@ -735,7 +735,7 @@ private:
     QQuickItem* pane() const
     {
         return ScreenReader::findIf(m_window->content(), [](QQuickItem* item) {
-            return ScreenReader::role(item) == QAccessible::List;
+            return ScreenReader::role(item) == QAccessible::LayeredPane;
         });
     }
 

@@ -31,6 +31,14 @@ bool isForUse(QQuickItem* item)
            item->inherits("QQuickTextEdit");
 }
 
+bool hasALongList(const QString& stop)
+{
+    return QStringList{u"today"_qs,   u"today, everything unfolded"_qs,
+                       u"kept"_qs,    u"weekly"_qs,
+                       u"archive"_qs, u"archived day"_qs}
+        .contains(stop);
+}
+
 /// What a screen reader was told last to have the focus.
 QPointer<QObject> lastFocus;
 
@@ -81,6 +89,27 @@ private Q_SLOTS:
         QStringList unreached;
         collectUnreached(topmost(window), stops, unreached);
         QCOMPARE(unreached.join(u'\n'), QString());
+    }
+
+    // Lists hold just what is seen then.
+    void theTabKeyReachesTheSameWithoutAScreenReader_data()
+    {
+        QTest::addColumn<ScreenTour::Stop>("stop");
+        QTest::addColumn<QSize>("size");
+        for (const auto& stop : ScreenTour::stops()) {
+            for (const QSize size : {QSize(1120, 560), QSize(760, 560)}) {
+                if (hasALongList(stop.name)) {
+                    QTest::addRow("%s, %d", qPrintable(stop.name), size.width()) << stop << size;
+                }
+            }
+        }
+    }
+
+    void theTabKeyReachesTheSameWithoutAScreenReader()
+    {
+        QFETCH(const ScreenTour::Stop, stop);
+        QFETCH(const QSize, size);
+        QCOMPARE(namesOnTheWay(stop, size, false), namesOnTheWay(stop, size, true));
     }
 
     void theOrderOfTheTabKey()
@@ -134,7 +163,7 @@ private Q_SLOTS:
         QFETCH(const bool, leftACard);
         ScreenTour::Visit visit({.name = {}}, {1120, 560});
         const auto& window = visit.window();
-        auto* const pane = window.find(u"今天先看 3 条"_qs, QAccessible::List);
+        auto* const pane = window.find(u"今天先看 3 条"_qs, QAccessible::LayeredPane);
         if (leftACard) {
             window.find(u"Title of a"_qs, QAccessible::ListItem)
                 ->forceActiveFocus(Qt::TabFocusReason);
@@ -179,11 +208,33 @@ private:
         return stops;
     }
 
+    /// What the Tab key leads to up to the window's last stop, and back from there.
+    static QStringList namesOnTheWay(const ScreenTour::Stop& stop, QSize size, bool readAloud)
+    {
+        ScreenTour::Visit visit(stop, size);
+        const auto& window = visit.window();
+        window.window()->setProperty("readAloud", readAloud);
+        window.settle();
+        const auto press = [&window](Qt::Key key) {
+            window.pressKey(key);
+            return ScreenReader::name(window.window()->activeFocusItem());
+        };
+        constexpr qsizetype atMost = 100;
+        QStringList names{press(Qt::Key_Tab)};
+        while (names.constLast() != u"关闭窗口" && names.size() < atMost) {
+            names.append(press(Qt::Key_Tab));
+        }
+        for (auto back = names.size(); back > 1; --back) {
+            names.append(press(Qt::Key_Backtab));
+        }
+        return names;
+    }
+
     /// What has the focus is seen to have it.
     void inspect(QQuickItem* focused)
     {
-        if (focused->inherits("Pressable") && !hasRing(focused)) {
-            m_faults.append(u"no ring: "_qs + ScreenReader::name(focused));
+        if (focused->inherits("Pressable")) {
+            inspectRing(focused);
         }
         const auto* const pane = ScreenReader::paneAround(focused->parentItem());
         if (!pane) {
@@ -196,11 +247,42 @@ private:
         }
     }
 
-    static bool hasRing(const QQuickItem* control)
+    void inspectRing(QQuickItem* control)
     {
-        return std::ranges::any_of(control->childItems(), [](const QQuickItem* child) {
+        const auto children = control->childItems();
+        const auto ring = std::ranges::find_if(children, [](const QQuickItem* child) {
             return child->metaObject()->indexOfProperty("shown") >= 0 && child->isVisible();
         });
+        if (ring == children.cend()) {
+            m_faults.append(u"no ring: "_qs + ScreenReader::name(control));
+        } else if (auto* const pane = ScreenReader::paneAround(control->parentItem())) {
+            inspectTexts(pane, control, ScreenReader::place(*ring));
+        }
+    }
+
+    /// Where a text shows: above and below its letters a line has room.
+    static QRectF lettersOf(const QQuickItem* text)
+    {
+        constexpr qreal room = 3;
+        auto place = ScreenReader::place(text);
+        place.setWidth(text->property("contentWidth").toReal());
+        return place.adjusted(0, room, 0, -room);
+    }
+
+    /// The ring stands on no text but its control's own.
+    void inspectTexts(QQuickItem* item, QQuickItem* control, const QRectF& ring)
+    {
+        if (!item->isVisible() || item == control) {
+            return;
+        }
+        if (item->inherits("QQuickText") && lettersOf(item).intersects(ring)) {
+            m_faults.append(u"the ring of “%1” stands on “%2”"_qs.arg(
+                ScreenReader::name(control), item->property("text").toString()));
+        }
+        const auto children = item->childItems();
+        for (auto* const child : children) {
+            inspectTexts(child, control, ring);
+        }
     }
 
     /// The open sheet, or the whole window.

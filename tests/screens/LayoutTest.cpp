@@ -239,13 +239,20 @@ private:
     static QMap<int, qreal> rowHeights(const QQuickItem* list)
     {
         QMap<int, qreal> heights;
-        const auto rows = list->property("contentItem").value<QQuickItem*>()->childItems();
-        for (const auto* const row : rows) {
-            if (const auto index = row->property("index"); index.isValid()) {
-                heights.insert(index.toInt(), row->height());
+        collectHeights(list->property("contentItem").value<QQuickItem*>(), heights);
+        return heights;
+    }
+
+    static void collectHeights(const QQuickItem* item, QMap<int, qreal>& heights)
+    {
+        const auto children = item->childItems();
+        for (const auto* const child : children) {
+            if (const auto index = child->property("index"); index.isValid()) {
+                heights.insert(index.toInt(), child->height());
+            } else {
+                collectHeights(child, heights);
             }
         }
-        return heights;
     }
 
     void inspectWindow(const WorkbenchWindow& window, QSize size, bool stretched)
@@ -264,6 +271,9 @@ private:
         if (isOfClass(item, "Pressable") && item->height() < leastTargetHeight(item)) {
             m_faults.append(u"hard to hit: "_qs + told(item));
         }
+        if (isOfClass(item, "QQuickPaintedItem") && !standsOnWholePixels(item)) {
+            m_faults.append(u"between pixels: "_qs + told(item->parentItem()));
+        }
         if (isOfClass(item, "QQuickFlickable") && !isOfClass(item, "QQuickTextEdit")) {
             inspectScroll(item);
         }
@@ -275,6 +285,15 @@ private:
             inspect(child, window, stretched);
         }
     }
+
+    /// Else it would be blurred.
+    static bool standsOnWholePixels(const QQuickItem* item)
+    {
+        const QPointF place = item->mapToScene(QPointF());
+        return isWhole(place.x()) && isWhole(place.y());
+    }
+
+    static bool isWhole(qreal length) { return std::abs(length - std::round(length)) < 0.01; }
 
     void inspectScroll(const QQuickItem* list)
     {

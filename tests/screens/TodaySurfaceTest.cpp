@@ -54,7 +54,7 @@ private Q_SLOTS:
         QFETCH(const Qt::Key, forth);
         QFETCH(const Qt::Key, back);
         QFETCH(const Qt::KeyboardModifiers, backModifiers);
-        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::List);
+        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::LayeredPane);
         const auto top = list->property("contentY").toReal();
 
         window().pressKey(forth);
@@ -76,7 +76,7 @@ private Q_SLOTS:
     void aKeyWithAModifierTurnsNoPage()
     {
         QFETCH(const Qt::KeyboardModifiers, modifiers);
-        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::List);
+        const auto* const list = find(u"今天先看 3 条"_qs, QAccessible::LayeredPane);
         const auto top = list->property("contentY").toReal();
         for (const auto& key : {Qt::Key_Space, Qt::Key_PageDown, Qt::Key_Down, Qt::Key_End}) {
             window().pressKey(key, modifiers);
@@ -107,6 +107,40 @@ private Q_SLOTS:
         QVERIFY(!window().hasFocus(u"打开脉络：Title of c"_qs, QAccessible::Button));
         window().pressKey(Qt::Key_Backtab);
         QVERIFY(window().hasFocus(u"打开脉络：Title of b"_qs, QAccessible::Button));
+    }
+
+    void whereThatLineIsOutOfSightTheStopIsOneThatIsSeen_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QString>("list");
+
+        QTest::newRow("beside the cards") << QSize(1120, 780) << u"今日全部"_qs;
+        QTest::newRow("below them") << QSize(760, 560) << u"今天先看 3 条"_qs;
+    }
+
+    void whereThatLineIsOutOfSightTheStopIsOneThatIsSeen()
+    {
+        QFETCH(const QSize, size);
+        QFETCH(const QString, list);
+        m_visit.emplace(ScreenTour::Stop{.name = {},
+                                         .prepare =
+                                             [](SampleModel& sample) {
+                                                 addTen(sample, InformationLane::Workflow);
+                                                 addTen(sample, InformationLane::FounderStory);
+                                             }},
+                        size);
+        window().window()->setProperty("readAloud", false);
+        auto* const pane = find(list, QAccessible::List);
+        QMetaObject::invokeMethod(pane, "positionViewAtEnd");
+        window().settle();
+        const auto seen = pane->property("contentY").toReal();
+
+        constexpr int atMost = 40;
+        for (int i = 0; i < atMost && !focusedName().startsWith(u"打开脉络："); ++i) {
+            window().pressKey(Qt::Key_Tab);
+        }
+        QVERIFY(focusedName().startsWith(u"打开脉络："));
+        QCOMPARE(pane->property("contentY").toReal(), seen);
     }
 
     void theArrowsChooseALane()
@@ -165,7 +199,7 @@ private Q_SLOTS:
     void theRemainingCardsUnfold()
     {
         window().window()->setProperty("reducedMotion", false);
-        auto* const surface = find(u"今天先看 3 条"_qs, QAccessible::List)->parentItem();
+        auto* const surface = find(u"今天先看 3 条"_qs, QAccessible::LayeredPane)->parentItem();
         ScreenReader::press(find(disclosure, QAccessible::Button));
         QCOMPARE(surface->property("unfolded").toReal(), 0.0);
         auto* const card = window().awaited(u"Title of d"_qs, QAccessible::ListItem);
@@ -270,7 +304,7 @@ private Q_SLOTS:
     void inOnePaneTheListFollowsTheCards()
     {
         window().resize({760, 560});
-        const auto* const column = find(u"今天先看 3 条"_qs, QAccessible::List);
+        const auto* const column = find(u"今天先看 3 条"_qs, QAccessible::LayeredPane);
         const auto* const line = find(u"打开脉络：Title of a"_qs, QAccessible::Button);
         QVERIFY(ScreenReader::isWithin(column, line));
         focus(u"打开脉络：Title of a"_qs, QAccessible::Button);
@@ -317,6 +351,8 @@ private:
     {
         return window().find(name, role);
     }
+
+    QString focusedName() { return ScreenReader::name(window().window()->activeFocusItem()); }
 
     void focus(const QString& name, QAccessible::Role role)
     {

@@ -23,7 +23,6 @@ del sys.argv[1:]
 QML_PACKAGES = {
     "QtQml": {"qml6-module-qtqml", "qml6-module-qtqml-models", "qml6-module-qtqml-workerscript"},
     "QtQuick": {"qml6-module-qtquick"},
-    "QtQuick.Shapes": {"qml6-module-qtquick-shapes"},
     "QtQuick.Templates": {"qml6-module-qtquick-templates"},
     "QtQuick.Window": {"qml6-module-qtquick-window"},
 }
@@ -96,6 +95,14 @@ class PackagingTest(unittest.TestCase):
         self.assertEqual(
             ["--share=network", "--share=ipc", "--socket=wayland", "--socket=fallback-x11"],
             manifest["finish-args"])
+
+    def test_libraries_come_from_the_system_alone(self):
+        """An empty path in the list would be the directory that the program is started in."""
+        for program in programs:
+            dynamic = subprocess.run(["readelf", "--dynamic", "--wide", program],
+                                     capture_output=True, text=True, check=True).stdout
+            self.assertIn("(NEEDED)", dynamic)
+            self.assertNotRegex(dynamic, "R(UN)?PATH")
 
     def test_manuals_and_completions_know_every_option(self):
         for program in programs:

@@ -42,7 +42,7 @@ AppButton {
         HeadingText {
             width: parent.width
             text: section.row.monthDay
-            textStyle: InformationTheme.title1
+            textStyle: TypeScale.title1
         }
 
         Flow {
@@ -52,7 +52,7 @@ AppButton {
             AppText {
                 width: Math.min(implicitWidth, parent.width)
                 text: section.row.weekday
-                textStyle: InformationTheme.small
+                textStyle: TypeScale.small
                 color: InformationTheme.ink2
                 maximumLineCount: InformationTheme.longestName
                 elide: Text.ElideRight
@@ -83,7 +83,7 @@ AppButton {
             AppText {
                 visible: section.row.opensDay
                 text: "精选："
-                textStyle: InformationTheme.meta
+                textStyle: TypeScale.meta
                 color: InformationTheme.ink2
             }
 
@@ -104,8 +104,9 @@ AppButton {
             spacing: 6
 
             AppText {
+                width: Math.ceil(implicitWidth)
                 text: section.row.closing
-                textStyle: InformationTheme.small
+                textStyle: TypeScale.small
                 color: InformationTheme.accent
                 wrapMode: Text.NoWrap
             }

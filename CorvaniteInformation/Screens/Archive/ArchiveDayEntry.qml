@@ -18,7 +18,7 @@ Item {
         y: 2
         width: Math.max(32, implicitWidth + 8)
         text: entry.row.number
-        textStyle: InformationTheme.meta
+        textStyle: TypeScale.meta
         color: InformationTheme.ink3
         wrapMode: Text.NoWrap
     }

@@ -23,7 +23,7 @@ Column {
         AppText {
             width: parent.width
             text: foot.page.day.count
-            textStyle: InformationTheme.small
+            textStyle: TypeScale.small
             color: InformationTheme.ink2
         }
 

@@ -20,7 +20,7 @@ Item {
         y: 22
         width: 52
         text: section.row.rank
-        textStyle: InformationTheme.display
+        textStyle: TypeScale.display
         color: InformationTheme.ink3
         wrapMode: Text.NoWrap
         fontSizeMode: Text.HorizontalFit
@@ -44,14 +44,14 @@ Item {
                 spacing: 6
 
                 LaneSquare {
-                    y: (InformationTheme.meta.lineHeight - height) / 2
+                    y: (TypeScale.meta.lineHeight - height) / 2
                     color: section.row.laneColor
                 }
 
                 AppText {
                     width: parent.width - x
                     text: section.row.laneAndSource
-                    textStyle: InformationTheme.meta
+                    textStyle: TypeScale.meta
                     color: InformationTheme.ink2
                     maximumLineCount: InformationTheme.longestName
                     elide: Text.ElideRight

@@ -50,13 +50,13 @@ Column {
 
             AppText {
                 text: head.page.summary
-                textStyle: InformationTheme.title3
+                textStyle: TypeScale.title3
             }
 
             AppText {
-                height: InformationTheme.title3.lineHeight
+                height: TypeScale.title3.lineHeight
                 text: "每日焦点 + 全部条目，不可变归档。"
-                textStyle: InformationTheme.small
+                textStyle: TypeScale.small
                 color: InformationTheme.ink2
                 verticalAlignment: Text.AlignVCenter
             }

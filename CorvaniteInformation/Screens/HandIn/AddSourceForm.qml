@@ -64,7 +64,7 @@ Column {
             HeadingText {
                 width: parent.width
                 text: form.title
-                textStyle: InformationTheme.title1
+                textStyle: TypeScale.title1
             }
 
             SheetText {
@@ -106,7 +106,7 @@ Column {
             width: parent.width
             height: Math.max(40, implicitHeight)
             text: form.refused ? form.workbench.intakeErrorMessage : "已核验的公开来源会直接接入；其他输入先安全保存在本机，未接入时不会假装已经抓取。"
-            textStyle: InformationTheme.small
+            textStyle: TypeScale.small
             color: form.refused ? InformationTheme.accent : InformationTheme.ink2
             Accessible.ignored: form.refused
         }

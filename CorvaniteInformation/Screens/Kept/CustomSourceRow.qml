@@ -9,12 +9,14 @@ Pressable {
     id: control
 
     required property keptRow row
+    /// A screen reader counts it.
+    required property bool counted
 
     signal removed
 
     implicitHeight: content.y + content.height + 12
 
-    Accessible.role: Accessible.ListItem
+    Accessible.role: control.counted ? Accessible.ListItem : Accessible.Section
     Accessible.name: control.row.title
     Accessible.description: control.row.status
 
@@ -44,7 +46,7 @@ Pressable {
             AppText {
                 width: parent.width
                 text: control.row.status
-                textStyle: InformationTheme.small
+                textStyle: TypeScale.small
                 color: InformationTheme.ink2
             }
         }

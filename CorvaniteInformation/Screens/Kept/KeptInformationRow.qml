@@ -9,6 +9,8 @@ AppButton {
     id: control
 
     required property keptRow row
+    /// A screen reader counts it.
+    required property bool counted
 
     signal opened
     signal removed
@@ -18,7 +20,7 @@ AppButton {
     ringInside: true
     ground: down ? InformationTheme.well : "transparent"
 
-    Accessible.role: Accessible.ListItem
+    Accessible.role: control.counted ? Accessible.ListItem : Accessible.Section
     Accessible.name: control.row.title
     Accessible.description: control.row.status
 
@@ -41,13 +43,13 @@ AppButton {
             HeadingText {
                 width: parent.width
                 text: control.row.title
-                textStyle: InformationTheme.title3
+                textStyle: TypeScale.title3
             }
 
             AppText {
                 width: parent.width
                 text: control.row.status
-                textStyle: InformationTheme.small
+                textStyle: TypeScale.small
                 color: InformationTheme.ink2
                 maximumLineCount: InformationTheme.longestName
                 elide: Text.ElideRight

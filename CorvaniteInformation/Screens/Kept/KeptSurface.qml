@@ -17,12 +17,8 @@ Surface {
         head.focusSearch();
     }
 
-    /// The row goes; where the keyboard was on it, it goes on with what takes the row's place.
     function remove(row: keptRow, index: int) {
-        const byKeyboard = (surface.Window.activeFocusItem as Pressable)?.visualFocus ?? false;
-        page.remove(row);
-        if (byKeyboard && !list.focusRow(Math.min(index, list.count - 1)))
-            focusSearch();
+        list.removeRow(index, () => page.remove(row));
     }
 
     KeptPage {
@@ -54,8 +50,9 @@ Surface {
         focus: true
         head: head
         model: page.rows
+        onLastRowRemoved: surface.focusSearch()
 
-        Accessible.role: Accessible.List
+        Accessible.role: Accessible.LayeredPane
         Accessible.name: "已收下"
 
         KeptHead {
@@ -67,12 +64,22 @@ Surface {
             page: page
         }
 
-        delegate: FocusScope {
+        CountedRows {
+            id: rows
+
+            pane: list
+            count: list.count
+        }
+
+        delegate: PaneRow {
             id: place
 
             required property keptRow row
             required property int index
 
+            pane: list
+            companions: rows
+            position: index
             width: list.width
             implicitHeight: slice.implicitHeight
 
@@ -94,6 +101,7 @@ Surface {
                         width: slice.width
                         focus: true
                         row: place.row
+                        counted: place.counted
                         onOpened: surface.workbench.openThread(row.itemId)
                         onRemoved: surface.remove(row, place.index)
                     }
@@ -106,6 +114,7 @@ Surface {
                         width: slice.width
                         focus: true
                         row: place.row
+                        counted: place.counted
                         onRemoved: surface.remove(row, place.index)
                     }
                 }

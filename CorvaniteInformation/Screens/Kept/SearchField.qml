@@ -20,5 +20,6 @@ AppTextField {
         x: 12
         anchors.verticalCenter: parent.verticalCenter
         path: IconPaths.search
+        color: InformationTheme.ink2
     }
 }

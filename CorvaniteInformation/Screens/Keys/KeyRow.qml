@@ -23,7 +23,7 @@ Item {
 
         width: key.keysWidth
         text: key.row.label
-        textStyle: InformationTheme.smallBold
+        textStyle: TypeScale.smallBold
         Accessible.ignored: true
     }
 
@@ -33,7 +33,7 @@ Item {
         x: key.keysWidth + 16
         width: parent.width - x
         text: key.row.text
-        textStyle: InformationTheme.small
+        textStyle: TypeScale.small
         color: InformationTheme.ink2
         Accessible.ignored: true
     }

@@ -42,7 +42,7 @@ Sheet {
             topPadding: 28
             bottomPadding: 16
             text: sheet.title
-            textStyle: InformationTheme.title1
+            textStyle: TypeScale.title1
         }
 
         QuietButton {

@@ -13,7 +13,7 @@ Item {
     implicitHeight: text.height
 
     Icon {
-        y: (InformationTheme.body.lineHeight - height) / 2
+        y: (TypeScale.body.lineHeight - height) / 2
         path: IconPaths.bullet
         filled: true
         size: 8
@@ -24,7 +24,7 @@ Item {
         x: 20
         width: 104
         text: bullet.row.label
-        textStyle: InformationTheme.bodyBold
+        textStyle: TypeScale.bodyBold
     }
 
     AppText {

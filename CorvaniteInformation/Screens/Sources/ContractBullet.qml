@@ -13,7 +13,7 @@ Column {
     AppText {
         width: parent.width
         text: bullet.row.label
-        textStyle: InformationTheme.bodyBold
+        textStyle: TypeScale.bodyBold
     }
 
     AppText {

@@ -34,7 +34,7 @@ Rectangle {
         AppText {
             width: parent.width
             text: note.page.governanceHeadline
-            textStyle: InformationTheme.bodyBold
+            textStyle: TypeScale.bodyBold
         }
 
         AppText {

@@ -46,7 +46,7 @@ Column {
             anchors.topMargin: 4
             width: parent.width
             text: section.page.registryNote
-            textStyle: InformationTheme.small
+            textStyle: TypeScale.small
             color: InformationTheme.ink2
         }
     }

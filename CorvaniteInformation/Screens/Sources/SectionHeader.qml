@@ -20,6 +20,6 @@ Column {
     HeadingText {
         width: parent.width
         text: header.subtitle
-        textStyle: InformationTheme.title3
+        textStyle: TypeScale.title3
     }
 }

@@ -25,7 +25,7 @@ Item {
         y: 14
         width: 28
         text: entry.row.number
-        textStyle: InformationTheme.meta
+        textStyle: TypeScale.meta
         color: InformationTheme.ink3
         wrapMode: Text.NoWrap
     }
@@ -40,13 +40,13 @@ Item {
         AppText {
             width: parent.width
             text: entry.row.name
-            textStyle: InformationTheme.bodyBold
+            textStyle: TypeScale.bodyBold
         }
 
         AppText {
             width: parent.width
             text: entry.row.description
-            textStyle: InformationTheme.small
+            textStyle: TypeScale.small
             color: InformationTheme.ink2
         }
     }

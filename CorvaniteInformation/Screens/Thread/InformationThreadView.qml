@@ -73,7 +73,7 @@ Sheet {
                 HeadingText {
                     width: parent.width
                     text: threadPage.title
-                    textStyle: InformationTheme.title1
+                    textStyle: TypeScale.title1
                     maximumLineCount: 3
                     elide: Text.ElideRight
                 }
@@ -107,11 +107,6 @@ Sheet {
             width: parent.width
             height: parent.height - y
             page: threadPage
-        }
-
-        // Else an icon is seen on the sheet's header, and on the page behind it.
-        ClippedShapes {
-            pane: body
         }
     }
 }

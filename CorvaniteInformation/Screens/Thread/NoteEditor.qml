@@ -20,7 +20,7 @@ T.TextArea {
     implicitHeight: Math.max(60, contentHeight + topPadding + bottomPadding)
     padding: 12
     color: InformationTheme.ink
-    font: InformationTheme.body.font
+    font: TypeScale.body.font
     placeholderText: "自己的备注（可选）"
     placeholderTextColor: InformationTheme.ink3
     selectByMouse: true

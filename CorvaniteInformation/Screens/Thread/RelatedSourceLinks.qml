@@ -19,6 +19,7 @@ Column {
 
         Column {
             width: links.width
+            bottomPadding: 4
             spacing: 16
 
             Hairline {}
@@ -26,7 +27,7 @@ Column {
             HeadingText {
                 width: parent.width
                 text: "更多原文"
-                textStyle: InformationTheme.smallBold
+                textStyle: TypeScale.smallBold
             }
         }
     }

@@ -16,7 +16,7 @@ Column {
     HeadingText {
         width: parent.width
         text: section.heading
-        textStyle: InformationTheme.smallBold
+        textStyle: TypeScale.smallBold
     }
 
     SheetText {

@@ -46,7 +46,7 @@ Item {
         maximumLineCount: 4
         elide: Text.ElideRight
         text: node.row.date
-        textStyle: node.row.isNow ? InformationTheme.smallBold : InformationTheme.small
+        textStyle: node.row.isNow ? TypeScale.smallBold : TypeScale.small
         color: node.row.isNow ? InformationTheme.accent : InformationTheme.ink2
         Accessible.ignored: true
     }
@@ -68,7 +68,7 @@ Item {
             width: parent.width
             visible: text !== ""
             text: node.row.source
-            textStyle: InformationTheme.caption
+            textStyle: TypeScale.caption
             color: InformationTheme.ink2
             maximumLineCount: InformationTheme.longestName
             elide: Text.ElideRight

@@ -28,7 +28,7 @@ Rectangle {
 
             HeadingText {
                 text: "这次变了什么"
-                textStyle: InformationTheme.smallBold
+                textStyle: TypeScale.smallBold
             }
 
             Tag {

@@ -22,7 +22,7 @@ Column {
 
         HeadingText {
             text: "数据回执"
-            textStyle: InformationTheme.captionBold
+            textStyle: TypeScale.captionBold
             color: InformationTheme.ink2
         }
     }
@@ -46,7 +46,7 @@ Column {
 
                 width: Math.max(36, implicitWidth)
                 text: figure.modelData.label
-                textStyle: InformationTheme.figure
+                textStyle: TypeScale.figure
                 horizontalAlignment: Text.AlignRight
                 wrapMode: Text.NoWrap
                 Accessible.ignored: true
@@ -56,7 +56,7 @@ Column {
                 anchors.baseline: value.baseline
                 x: value.width + 8
                 text: figure.modelData.text
-                textStyle: InformationTheme.small
+                textStyle: TypeScale.small
                 color: InformationTheme.ink2
                 wrapMode: Text.NoWrap
                 Accessible.ignored: true
@@ -71,7 +71,7 @@ Column {
         AppText {
             width: parent.width
             text: receipt.page.updatedText
-            textStyle: InformationTheme.caption
+            textStyle: TypeScale.caption
             color: InformationTheme.ink3
         }
     }

@@ -36,13 +36,13 @@ AppButton {
         AppText {
             width: parent.width
             text: row.text
-            textStyle: InformationTheme.bodyBold
+            textStyle: TypeScale.bodyBold
         }
 
         AppText {
             width: parent.width
             text: row.note
-            textStyle: InformationTheme.small
+            textStyle: TypeScale.small
             color: InformationTheme.ink2
         }
     }
@@ -54,6 +54,7 @@ AppButton {
         x: parent.width - 24 - width
         path: IconPaths.unfold
         size: 18
+        color: InformationTheme.ink2
         rotation: row.open ? 180 : 0
 
         Behavior on rotation {

@@ -19,7 +19,7 @@ LabelButton {
     iconPath: kept ? IconPaths.confirmed : ""
     iconTint: InformationTheme.malachite
     iconStroke: 2.25
-    textStyle: kept ? InformationTheme.quietLabel : InformationTheme.citrineLabel
+    textStyle: kept ? TypeScale.quietLabel : TypeScale.citrineLabel
     tint: {
         if (!kept)
             return InformationTheme.citrineInk;

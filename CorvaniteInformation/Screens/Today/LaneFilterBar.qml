@@ -24,7 +24,7 @@ Item {
 
         y: (lead.height - height) / 2
         text: "筛选："
-        textStyle: InformationTheme.caption
+        textStyle: TypeScale.caption
         color: InformationTheme.ink3
         wrapMode: Text.NoWrap
     }

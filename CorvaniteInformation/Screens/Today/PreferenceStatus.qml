@@ -18,6 +18,7 @@ Item {
 
         anchors.verticalCenter: parent.verticalCenter
         path: IconPaths.adjusted
+        color: InformationTheme.ink2
     }
 
     AppText {
@@ -27,7 +28,7 @@ Item {
         x: icon.width + 8
         width: reset.x - x
         text: status.text
-        textStyle: InformationTheme.small
+        textStyle: TypeScale.small
         color: InformationTheme.ink2
     }
 

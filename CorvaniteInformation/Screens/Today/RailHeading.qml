@@ -10,13 +10,13 @@ Column {
     HeadingText {
         width: parent.width
         text: "今日全部"
-        textStyle: InformationTheme.bodyBold
+        textStyle: TypeScale.bodyBold
     }
 
     AppText {
         width: parent.width
         text: "点任意一条打开完整脉络"
-        textStyle: InformationTheme.meta
+        textStyle: TypeScale.meta
         color: InformationTheme.ink3
     }
 }

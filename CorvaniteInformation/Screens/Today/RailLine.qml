@@ -48,7 +48,7 @@ AppButton {
         y: 8
         width: Math.max(22, implicitWidth)
         text: line.row.number
-        textStyle: InformationTheme.meta
+        textStyle: TypeScale.meta
         color: InformationTheme.ink3
         wrapMode: Text.NoWrap
     }
@@ -60,7 +60,7 @@ AppButton {
         y: 8
         width: badge.x - 12 - x
         text: line.row.title
-        textStyle: InformationTheme.small
+        textStyle: TypeScale.small
         maximumLineCount: 2
         elide: Text.ElideRight
         Accessible.ignored: true
@@ -72,7 +72,7 @@ AppButton {
         x: parent.width - line.overhang - width
         y: 8
         text: line.row.badge
-        textStyle: line.row.seen ? InformationTheme.meta : InformationTheme.metaBold
+        textStyle: line.row.seen ? TypeScale.meta : TypeScale.metaBold
         color: line.row.seen ? InformationTheme.ink3 : InformationTheme.accent
         wrapMode: Text.NoWrap
     }

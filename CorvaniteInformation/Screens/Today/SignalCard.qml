@@ -10,6 +10,8 @@ AppButton {
     id: card
 
     required property signalCardRow row
+    /// A screen reader counts it.
+    required property bool counted
 
     signal changeToggled
     signal keepToggled
@@ -21,7 +23,7 @@ AppButton {
     ground: down ? InformationTheme.well : InformationTheme.card
     outline: hovered ? InformationTheme.control : InformationTheme.hair
 
-    Accessible.role: Accessible.ListItem
+    Accessible.role: card.counted ? Accessible.ListItem : Accessible.Section
     Accessible.name: card.row.title
     Accessible.description: card.row.description
 

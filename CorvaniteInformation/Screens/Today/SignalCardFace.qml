@@ -94,7 +94,7 @@ Item {
                         width: Math.min(implicitWidth, parent.width)
                         text: face.row.sourceLine
                         address: face.row.originalAddress
-                        textStyle: InformationTheme.meta
+                        textStyle: TypeScale.meta
                         restTint: InformationTheme.ink3
                         Accessible.name: face.row.originalName
                         Accessible.description: source.enabled ? face.row.sourceLine : ""

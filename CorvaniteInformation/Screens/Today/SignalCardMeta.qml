@@ -25,7 +25,7 @@ Row {
 
     AppText {
         text: meta.row.kindTag
-        textStyle: InformationTheme.metaBold
+        textStyle: TypeScale.metaBold
         color: meta.row.isUpdate ? InformationTheme.accent : InformationTheme.ink
     }
 
@@ -33,17 +33,17 @@ Row {
 
     AppText {
         text: meta.row.laneName
-        textStyle: InformationTheme.meta
+        textStyle: TypeScale.meta
         color: InformationTheme.ink2
     }
 
     Dot {}
 
     AppText {
-        width: Math.min(Math.max(16, implicitWidth), meta.width - x - 72)
+        width: Math.min(Math.max(16, Math.ceil(implicitWidth)), Math.floor(meta.width - x - 72))
         wrapMode: Text.NoWrap
         text: meta.row.timeLabel
-        textStyle: InformationTheme.meta
+        textStyle: TypeScale.meta
         color: InformationTheme.ink2
         maximumLineCount: 1
         elide: Text.ElideRight

@@ -7,7 +7,7 @@ import CorvaniteInformation.Controls
 import CorvaniteInformation.Pages
 
 /// One place of the today surface's column, in the face of its kind.
-FocusScope {
+PaneRow {
     id: view
 
     required property todayEntry row
@@ -19,7 +19,6 @@ FocusScope {
     /// How far they are open, from 0 to 1.
     required property real unfolded
 
-    readonly property bool folds: row.foldingPosition >= 0
     /// The cards from there on lie below what can be seen, and keep their height: rows without one
     /// would all be made at once.
     readonly property int farthestFolding: 6
@@ -29,8 +28,8 @@ FocusScope {
     signal railLineFocused(position: int)
     signal railStepped(by: int)
 
-    implicitHeight: face.height * (folds && row.foldingPosition < farthestFolding ? unfolded : 1)
-    opacity: folds ? unfolded : 1
+    implicitHeight: face.height * (row.folds && row.position < farthestFolding ? unfolded : 1)
+    opacity: row.folds ? unfolded : 1
     clip: opacity < 1
 
     Column {
@@ -61,6 +60,7 @@ FocusScope {
                     focus: true
                     width: parent.width
                     row: view.row.card
+                    counted: view.counted
                     onClicked: view.page.workbench.openThread(row.signalId)
                     onChangeToggled: view.page.toggleChange(row.signalId)
                     onKeepToggled: view.page.workbench.toggleKeep(row.signalId)

@@ -14,7 +14,8 @@ FocusScope {
     required property TodayPage page
     required property int railStop
 
-    signal lineFocused(position: int)
+    /// The Tab key is to stop at that line from now on.
+    signal stopMoved(position: int)
 
     readonly property bool receiptPinned: height === 0 || height >= 520
     /// Not `atYEnd`, which stays true after rows have come below without a move.
@@ -36,6 +37,8 @@ FocusScope {
         topMargin: 32
         bottomMargin: rail.receiptPinned ? 0 : receipt.height
         focus: true
+        firstStop: lastStop
+        lastStop: count - rail.page.railCount + rail.railStop
         model: rail.page.railEntries
 
         Accessible.role: Accessible.List
@@ -48,9 +51,15 @@ FocusScope {
             width: rail.textWidth
             page: rail.page
             railStop: rail.railStop
-            onLineFocused: position => rail.lineFocused(position)
+            onLineFocused: position => rail.stopMoved(position)
             onStepped: by => lines.focusRow(index + by)
         }
+    }
+
+    RailStop {
+        list: lines
+        railStop: rail.railStop
+        onMoved: position => rail.stopMoved(position)
     }
 
     Rectangle {

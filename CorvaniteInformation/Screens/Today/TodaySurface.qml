@@ -33,14 +33,6 @@ FocusScope {
     property int railLine: 0
     readonly property int railStop: Math.min(railLine, todayPage.railCount - 1)
 
-    /// The card goes; where the keyboard was on it, it goes on with what takes the card's place.
-    function reduce(signalId: string, index: int) {
-        const byKeyboard = (surface.Window.activeFocusItem as Pressable)?.visualFocus ?? false;
-        surface.workbench.reduceSimilar(signalId);
-        if (byKeyboard)
-            column.focusRow(Math.min(index, column.count - 1));
-    }
-
     Window.onActiveChanged: if (Window.active)
         todayPage.refresh()
 
@@ -69,14 +61,18 @@ FocusScope {
         topMargin: surface.wide ? 40 : surface.twoPanes ? 32 : 24
         bottomMargin: (surface.twoPanes ? 24 : 32) + foot.height
         focus: true
+        lastStop: surface.twoPanes ? count - 1 : count - todayPage.railCount + surface.railStop
         model: joined
 
-        Accessible.role: Accessible.List
+        Accessible.role: Accessible.LayeredPane
         Accessible.name: todayPage.title
 
         delegate: TodayEntryView {
             required property int index
 
+            pane: column
+            companions: !row.isCard ? null : row.folds ? remaining : first
+            position: row.position
             width: column.width
             columnWidth: column.columnWidth
             page: todayPage
@@ -84,9 +80,23 @@ FocusScope {
             open: surface.open
             unfolded: surface.unfolded
             onRemainingToggled: surface.open = !surface.open
-            onSimilarReduced: signalId => surface.reduce(signalId, index)
+            onSimilarReduced: signalId => column.removeRow(index, () => surface.workbench.reduceSimilar(signalId))
             onRailLineFocused: position => surface.railLine = position
             onRailStepped: by => column.focusRow(index + by)
+        }
+
+        CountedRows {
+            id: first
+
+            pane: column
+            count: todayPage.focusedCount
+        }
+
+        CountedRows {
+            id: remaining
+
+            pane: column
+            count: todayPage.remainingCount
         }
 
         Column {
@@ -108,6 +118,13 @@ FocusScope {
         }
     }
 
+    RailStop {
+        enabled: !surface.twoPanes
+        list: column
+        railStop: surface.railStop
+        onMoved: position => surface.railLine = position
+    }
+
     Optional {
         when: surface.twoPanes
 
@@ -117,7 +134,7 @@ FocusScope {
             height: surface.height
             page: todayPage
             railStop: surface.railStop
-            onLineFocused: position => surface.railLine = position
+            onStopMoved: position => surface.railLine = position
         }
     }
 }

@@ -39,13 +39,13 @@ CardSlice {
                     AppText {
                         width: parent.width
                         text: day.row.label
-                        textStyle: InformationTheme.bodyBold
+                        textStyle: TypeScale.bodyBold
                     }
 
                     AppText {
                         width: parent.width
                         text: day.row.count
-                        textStyle: InformationTheme.caption
+                        textStyle: TypeScale.caption
                         color: InformationTheme.ink2
                     }
                 }

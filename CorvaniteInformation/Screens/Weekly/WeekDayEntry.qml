@@ -38,7 +38,7 @@ Item {
         anchors.baseline: title.baseline
         visible: entry.row.resolved
         text: entry.row.laneName
-        textStyle: InformationTheme.meta
+        textStyle: TypeScale.meta
         color: InformationTheme.ink2
         wrapMode: Text.NoWrap
     }

@@ -21,7 +21,7 @@ Column {
 
             width: Math.min(implicitWidth, parent.width - badge.width - 12)
             text: head.row.range
-            textStyle: InformationTheme.title1
+            textStyle: TypeScale.title1
         }
 
         Tag {
@@ -29,7 +29,7 @@ Column {
 
             anchors.left: range.right
             anchors.leftMargin: 12
-            y: (InformationTheme.title1.lineHeight - height) / 2
+            y: (TypeScale.title1.lineHeight - height) / 2
             text: head.row.badge
             kind: head.row.running ? Tag.Running : Tag.Neutral
         }
@@ -41,7 +41,7 @@ Column {
             anchors.topMargin: 4
             width: parent.width
             text: head.row.summary
-            textStyle: InformationTheme.small
+            textStyle: TypeScale.small
             color: InformationTheme.ink2
         }
     }

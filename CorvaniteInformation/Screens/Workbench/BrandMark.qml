@@ -24,7 +24,7 @@ Row {
     Column {
         HeadingText {
             text: "信息工作台"
-            textStyle: InformationTheme.brandName
+            textStyle: TypeScale.brandName
         }
 
         Row {
@@ -34,13 +34,13 @@ Row {
                 width: Math.ceil(implicitWidth)
                 text: "corvanite"
                 color: InformationTheme.ink2
-                textStyle: InformationTheme.captionBold
+                textStyle: TypeScale.captionBold
             }
 
             AppText {
                 text: "AI 时代的信息管理工作台"
                 color: InformationTheme.ink3
-                textStyle: InformationTheme.caption
+                textStyle: TypeScale.caption
             }
         }
     }

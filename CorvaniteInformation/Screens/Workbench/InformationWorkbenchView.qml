@@ -23,7 +23,8 @@ Window {
     minimumHeight: 560
     visible: true
     title: "Corvanite Information"
-    flags: Qt.Window | Qt.FramelessWindowHint
+    // Not by `|`, which Qt 6.4 does not compile ahead of time; see WindowEdge.
+    flags: Qt.Window + Qt.FramelessWindowHint
     color: InformationTheme.canvas
 
     // After the first frame, which nothing may delay, and after no other.
@@ -126,9 +127,6 @@ Window {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: footer.top
-            // Drawn before the frame: Qt 6.4 draws an icon that is scrolled out of sight as if nothing
-            // clipped it.
-            z: -1
             focus: true
             workbench: window.workbench
 

@@ -117,7 +117,7 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         width: bar.width - bar.textSpace
         text: bar.message
-        textStyle: InformationTheme.small
+        textStyle: TypeScale.small
         maximumLineCount: 2
         elide: Text.ElideRight
         Accessible.ignored: true

@@ -23,7 +23,7 @@ Rectangle {
 
     component FooterLink: LinkText {
         activeFocusOnPress: false
-        textStyle: InformationTheme.caption
+        textStyle: TypeScale.caption
         restTint: InformationTheme.ink2
     }
 
@@ -51,7 +51,7 @@ Rectangle {
         AppText {
             text: "收下的内容与偏好保存在当前设备"
             color: InformationTheme.ink3
-            textStyle: InformationTheme.caption
+            textStyle: TypeScale.caption
             wrapMode: Text.NoWrap
         }
 
@@ -70,7 +70,7 @@ Rectangle {
             visible: text !== ""
             text: footer.page.syncNote
             color: footer.page.syncFailed ? InformationTheme.accent : InformationTheme.ink2
-            textStyle: InformationTheme.caption
+            textStyle: TypeScale.caption
             wrapMode: Text.NoWrap
             Accessible.ignored: true
 
@@ -96,7 +96,7 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             text: "站点导航"
             color: InformationTheme.ink3
-            textStyle: InformationTheme.caption
+            textStyle: TypeScale.caption
             wrapMode: Text.NoWrap
         }
 

@@ -12,7 +12,7 @@ LabelButton {
     radius: InformationTheme.segmentRadius
     activeFocusOnPress: false
     activeFocusOnTab: selected || activeFocus
-    textStyle: selected ? InformationTheme.smallBold : InformationTheme.small
+    textStyle: selected ? TypeScale.smallBold : TypeScale.small
     tint: selected || hovered ? InformationTheme.ink : InformationTheme.ink2
     iconTint: selected ? InformationTheme.accent : tint
     ground: selected ? InformationTheme.thumb : "transparent"

@@ -39,7 +39,7 @@ Rectangle {
                 required property SurfaceEntry modelData
                 required property int index
 
-                width: switcher.stretched ? (switcher.width - 6) / switcher.surfaces.length : implicitWidth
+                width: switcher.stretched ? Math.floor((switcher.width - 6) / switcher.surfaces.length) : implicitWidth
                 text: modelData.label
                 iconPath: modelData.iconPath
                 selected: modelData.surface === switcher.current

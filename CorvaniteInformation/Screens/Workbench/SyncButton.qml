@@ -17,7 +17,7 @@ LabelButton {
     text: running ? "同步中" : "同步站点"
     iconPath: running ? IconPaths.syncing : IconPaths.sync
     iconRotation: spin.running ? turn : 0
-    textStyle: InformationTheme.syncLabel
+    textStyle: TypeScale.syncLabel
     tint: down ? InformationTheme.ink : InformationTheme.ink2
     ground: down ? InformationTheme.syncPressed : InformationTheme.syncRest
     outline: hovered && !down ? InformationTheme.control : "transparent"

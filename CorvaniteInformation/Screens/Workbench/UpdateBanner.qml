@@ -83,7 +83,7 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         width: actions.x - x - 12
         text: banner.message
-        textStyle: InformationTheme.small
+        textStyle: TypeScale.small
         wrapMode: Text.NoWrap
         elide: Text.ElideRight
     }

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import CorvaniteInformation.Controls
 
@@ -39,14 +37,47 @@ Item {
         color: InformationTheme.hairStrong
     }
 
-    Repeater {
-        model: [Qt.LeftEdge, Qt.RightEdge, Qt.TopEdge, Qt.BottomEdge, Qt.TopEdge | Qt.LeftEdge, Qt.TopEdge | Qt.RightEdge, Qt.BottomEdge | Qt.LeftEdge, Qt.BottomEdge | Qt.RightEdge]
+    WindowEdge {
+        window: edges.window
+        atLeft: true
+    }
 
-        WindowEdge {
-            required property int modelData
+    WindowEdge {
+        window: edges.window
+        atRight: true
+    }
 
-            side: modelData
-            window: edges.window
-        }
+    WindowEdge {
+        window: edges.window
+        atTop: true
+    }
+
+    WindowEdge {
+        window: edges.window
+        atBottom: true
+    }
+
+    WindowEdge {
+        window: edges.window
+        atTop: true
+        atLeft: true
+    }
+
+    WindowEdge {
+        window: edges.window
+        atTop: true
+        atRight: true
+    }
+
+    WindowEdge {
+        window: edges.window
+        atBottom: true
+        atLeft: true
+    }
+
+    WindowEdge {
+        window: edges.window
+        atBottom: true
+        atRight: true
     }
 }
