@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The addresses whose first `prefixLength` bits are those of `address`.
+/// The addresses whose first `prefixLength` bits are those of `address`, which has no others.
 struct Ipv4Range
 {
     quint32 address;
@@ -20,7 +20,8 @@ struct Ipv4Range
 
     constexpr bool contains(quint32 candidate) const
     {
-        return (candidate ^ address) >> (32 - prefixLength) == 0;
+        const int rest = 32 - prefixLength;
+        return candidate >> rest << rest == address;
     }
 };
 

@@ -177,6 +177,25 @@ private Q_SLOTS:
         QCOMPARE(focusIds(signals, 1, stamp, {}), QStringList{first});
     }
 
+    void newsOfAnUnknownTimeIsAsOldAsTheEpoch_data()
+    {
+        QTest::addColumn<QString>("stamp");
+        QTest::addColumn<QString>("first");
+
+        QTest::newRow("a day after") << u"1970-01-02T00:00:00Z"_qs << u"news"_qs;
+        QTest::newRow("a moment later") << u"1970-01-02T00:00:00.001Z"_qs << u"update"_qs;
+    }
+
+    void newsOfAnUnknownTimeIsAsOldAsTheEpoch()
+    {
+        QFETCH(QString, stamp);
+        QFETCH(QString, first);
+
+        const QList<InformationSignal> signals{update(u"update"_qs, u"1970-01-01T00:00:00Z"_qs),
+                                               news(u"news"_qs, u"unknown"_qs)};
+        QCOMPARE(focusIds(signals, 1, stamp, {}), QStringList{first});
+    }
+
     void aStampThatDoesNotReadPutsUpdatesFirst()
     {
         const QStringList wanted{u"u1"_qs, u"u2"_qs, u"o1"_qs, u"r1"_qs,
@@ -260,11 +279,11 @@ private Q_SLOTS:
                                                sampleSignal(u"c"_qs), sampleSignal(u"d"_qs)};
         InformationWorkspace workspace;
         workspace.setKept(true, signals.at(2), hour(1));
-        workspace.setKept(true, signals.at(1), hour(1));
-        workspace.setKept(true, signals.at(0), hour(2));
+        workspace.setKept(true, signals.at(0), hour(1));
+        workspace.setKept(true, signals.at(1), hour(2));
 
         QCOMPARE(idsOf(InformationProjection::kept(signals, workspace)),
-                 (QStringList{u"a"_qs, u"b"_qs, u"c"_qs}));
+                 (QStringList{u"b"_qs, u"a"_qs, u"c"_qs}));
     }
 
     void equalTimesOrderByCodePoint()

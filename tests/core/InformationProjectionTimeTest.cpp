@@ -79,6 +79,8 @@ private Q_SLOTS:
         QTest::newRow("only seconds") << u"1735787045"_qs;
         QTest::newRow("day alone") << u"2025-01-02"_qs;
         QTest::newRow("no seconds") << u"2025-01-02T03:04Z"_qs;
+        QTest::newRow("one digit of seconds") << u"2025-01-02T03:04:5Z"_qs;
+        QTest::newRow("one digit of minutes and seconds") << u"2025-01-02T03:4:5Z"_qs;
         QTest::newRow("no zone") << u"2025-01-02T03:04:05"_qs;
         QTest::newRow("fraction without zone") << u"2025-01-02T03:04:05.5"_qs;
         QTest::newRow("lower-case z") << u"2025-01-02T03:04:05z"_qs;
@@ -87,6 +89,8 @@ private Q_SLOTS:
         QTest::newRow("space for T") << u"2025-01-02 03:04:05Z"_qs;
         QTest::newRow("space before offset") << u"2025-01-02T03:04:05 +08:00"_qs;
         QTest::newRow("offset without colon") << u"2025-01-02T03:04:05+0800"_qs;
+        QTest::newRow("offset without sign") << u"2025-01-02T03:04:05 08:00"_qs;
+        QTest::newRow("offset with a dot") << u"2025-01-02T03:04:05+08.00"_qs;
         QTest::newRow("offset of hours") << u"2025-01-02T03:04:05+08"_qs;
         QTest::newRow("short offset") << u"2025-01-02T03:04:05+8:00"_qs;
         QTest::newRow("offset of a day") << u"2025-01-02T03:04:05+24:00"_qs;

@@ -302,6 +302,16 @@ private Q_SLOTS:
         QCOMPARE(fileManager.files.value(previousPath), QByteArray(isKept ? "new" : "old"));
     }
 
+    void withoutItsFolderNothingIsSaved()
+    {
+        MemoryFileManager fileManager;
+        fileManager.writeFailure = FileError{FileError::Reason::NoSpace};
+
+        const auto saved = repository.save(workspaceToStore(), fileManager);
+        QVERIFY(!saved);
+        QCOMPARE(saved.error(), *fileManager.writeFailure);
+    }
+
     void aFailedSaveKeepsTheOldFile()
     {
         MemoryFileManager fileManager = holding("{}");

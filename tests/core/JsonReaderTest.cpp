@@ -155,6 +155,7 @@ private Q_SLOTS:
         row("-2.50E2", -250);
         row("9223372036854775807", std::numeric_limits<qint64>::max());
         row("-9223372036854775808", std::numeric_limits<qint64>::min());
+        row("-9223372036854775808.0", std::numeric_limits<qint64>::min());
         row("9223372036854775808", std::nullopt);
         row("9223372036854775808.0", std::nullopt);
         row("-9223372036854775809", std::nullopt);

@@ -82,6 +82,32 @@ private Q_SLOTS:
         QCOMPARE(writer.document(), written + '\n');
     }
 
+    void aNameIsWrittenAlikeInEveryEncoding_data()
+    {
+        QTest::addColumn<QString>("name");
+
+        for (const QString& name : {u""_qs, u"a b~"_qs, u"\""_qs, u"\\"_qs, u"a\"b"_qs, u"\n"_qs,
+                                    u"a\nb"_qs, u"\u007F"_qs, u"é"_qs}) {
+            QTest::newRow(qUtf8Printable(name)) << name;
+        }
+    }
+
+    void aNameIsWrittenAlikeInEveryEncoding()
+    {
+        QFETCH(const QString, name);
+        const auto written = [](QAnyStringView key) {
+            JsonWriter writer;
+            writer.beginObject();
+            writer.key(key);
+            writer.boolean(true);
+            writer.endObject();
+            return writer.document();
+        };
+
+        QCOMPARE(written(QLatin1StringView(name.toLatin1())), written(name));
+        QCOMPARE(written(QUtf8StringView(name.toUtf8())), written(name));
+    }
+
     // The writer looks at many characters in one step.
     void escapesWhereverItStands()
     {

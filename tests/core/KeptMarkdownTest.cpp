@@ -26,7 +26,7 @@ private Q_SLOTS:
         QTest::newRow("empty line") << u"a\n\nb"_qs << u"a\\\n  \\\n  b"_qs;
         QTest::newRow("heading") << u"a\n# b\n==="_qs << u"a\\\n  \\# b\\\n  \\==="_qs;
         QTest::newRow("list") << u"- a\n  + b"_qs << u"- a\\\n  \\+ b"_qs;
-        QTest::newRow("numbered list") << u"1. a\n20) b"_qs << u"1. a\\\n  20\\) b"_qs;
+        QTest::newRow("numbered list") << u"1. a\n90) b"_qs << u"1. a\\\n  90\\) b"_qs;
         QTest::newRow("number") << u"3.5 (a)"_qs << u"3.5 (a)"_qs;
         QTest::newRow("code") << u"a\n    b"_qs << u"a\\\n  b"_qs;
     }

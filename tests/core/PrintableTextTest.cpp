@@ -21,6 +21,7 @@ private Q_SLOTS:
             << QStringList{u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs, u"e"_qs, u"f"_qs};
         QTest::newRow("empty lines")
             << u"\n\na\n\nb\n \n\n"_qs << QStringList{{}, {}, u"a"_qs, {}, u"b"_qs};
+        QTest::newRow("line end at the end") << u"a\n"_qs << QStringList{u"a"_qs};
         QTest::newRow("tab") << u"a\tb"_qs << QStringList{u"a b"_qs};
         QTest::newRow("escape") << u"\u001B[2J"_qs << QStringList{u"\uFFFD[2J"_qs};
         QTest::newRow("escape of one character")

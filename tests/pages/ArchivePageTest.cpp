@@ -137,6 +137,34 @@ private Q_SLOTS:
         QCOMPARE(dayChanged.size(), 1);
     }
 
+    void aDayIsToldWhereItsTextsOrItsPlaceChange_data()
+    {
+        QTest::addColumn<qsizetype>("newestFocus");
+        QTest::addColumn<qint64>("totalShown");
+        QTest::addColumn<bool>("told");
+
+        QTest::newRow("neither") << qsizetype(0) << qint64{3} << false;
+        QTest::newRow("its texts") << qsizetype(0) << qint64{17} << true;
+        QTest::newRow("its place") << qsizetype(25) << qint64{3} << true;
+    }
+
+    void aDayIsToldWhereItsTextsOrItsPlaceChange()
+    {
+        QFETCH(const qsizetype, newestFocus);
+        QFETCH(const qint64, totalShown);
+        SampleModel sample;
+        sample.selectionDays = {{u"2026-09-01"_qs, {}, totalShown},
+                                {u"2026-09-02"_qs, QList<QString>(newestFocus, u"a"_qs), 3}};
+        ShownPage<ArchivePage> page(std::move(sample));
+        page.model->openArchiveDay(u"2026-09-01"_qs);
+        const QSignalSpy dayChanged(&*page, &ArchivePage::dayChanged);
+
+        page.sync({u"a"_qs}, {u"2026-09-01"_qs, u"2026-09-02"_qs});
+
+        QTEST(!dayChanged.isEmpty(), "told");
+        QCOMPARE(page->dayPosition(), 1);
+    }
+
     void goesFromDayToDay()
     {
         ShownPage<ArchivePage> page(threeDays());

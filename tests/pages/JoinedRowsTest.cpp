@@ -85,8 +85,10 @@ private Q_SLOTS:
         m_first.setRows({{u'a'}, {u'b', 1}, {u'c'}});
         m_second.setRows({{u'x'}, {u'y'}, {u'z', 1}});
         QCOMPARE(changed.size(), 2);
-        QCOMPARE(changed.at(0).first().toModelIndex().row(), 1);
-        QCOMPARE(changed.at(1).first().toModelIndex().row(), 5);
+        QCOMPARE(changed.at(0).at(0).toModelIndex().row(), 1);
+        QCOMPARE(changed.at(0).at(1).toModelIndex().row(), 1);
+        QCOMPARE(changed.at(1).at(0).toModelIndex().row(), 5);
+        QCOMPARE(changed.at(1).at(1).toModelIndex().row(), 5);
     }
 
     void aMovedRowIsToldWhereItStands()

@@ -26,6 +26,7 @@ private Q_SLOTS:
 
     void aScreenReaderSaysAllRows()
     {
+        QCOMPARE(KeysPage::title(), u"键盘操作"_qs);
         const auto rows = KeysPage::rows();
         const auto lines = KeysPage::description().split(u'\n');
 

@@ -90,14 +90,17 @@ private Q_SLOTS:
     {
         ShownPage<ThreadPage> page;
         page->setSignalId(u"a"_qs);
+        const QSignalSpy told(&*page, &ThreadPage::keptChanged);
 
         page.model->toggleKeep(u"a"_qs);
         QVERIFY(page->kept());
         QCOMPARE(page->saveReason(), u"Why a"_qs);
         QCOMPARE(page->storedNote(), QString());
+        QCOMPARE(told.size(), 1);
 
         page.model->toggleKeep(u"a"_qs);
         QVERIFY(!page->kept());
+        QCOMPARE(told.size(), 2);
     }
 
     // The entry alone does not count as kept once its target is no longer followed.
@@ -200,6 +203,23 @@ private Q_SLOTS:
 
         QCOMPARE(replaced.size(), 1);
         QCOMPARE(page.storedNote(), u"写过"_qs);
+    }
+
+    void aNoteWrittenInOneThreadHoldsUpNoOtherThreads()
+    {
+        SampleModel sample;
+        const auto model = sample.make();
+        model->toggleKeep(u"a"_qs);
+        model->toggleKeep(u"b"_qs);
+        ThreadPage page;
+        open(page, *model);
+        page.writeNote(u"写过"_qs);
+        page.setSignalId(u"b"_qs);
+        const QSignalSpy replaced(&page, &ThreadPage::noteReplaced);
+
+        model->updateNote(u"b"_qs, u"别处写的"_qs);
+
+        QCOMPARE(replaced.size(), 1);
     }
 
     void showsTheNoteOfTheThreadsSavedVersion()

@@ -102,6 +102,17 @@ private Q_SLOTS:
         QCOMPARE(wordsOf(*page->entries()), words("intro a b c more"));
     }
 
+    void tellsThatTheRestIsShown()
+    {
+        ShownPage<TodayPage> page;
+        const QSignalSpy told(&*page, &TodayPage::showingRemainingChanged);
+
+        page->setShowingRemaining(true);
+        page->setShowingRemaining(true);
+
+        QCOMPARE(told.size(), 1);
+    }
+
     void offersNoRestWhereEverythingIsShown()
     {
         ShownPage<TodayPage> page;

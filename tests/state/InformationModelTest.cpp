@@ -4,6 +4,7 @@
 #include "InformationProjection.h"
 #include "Subject.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 class InformationModelTest : public QObject
@@ -182,6 +183,12 @@ private Q_SLOTS:
         QVERIFY(!model->signalById(u"gone"_qs));
     }
 
+    void aPageOfTheSiteHasItsAddress()
+    {
+        QCOMPARE(m_sample.make()->sitePage(u"来源"_qs),
+                 u"https://corvanite.example/%E6%9D%A5%E6%BA%90"_qs);
+    }
+
     void tellsWhatAnActionDoesInOrder_data()
     {
         QTest::addColumn<bool>("fails");
@@ -217,6 +224,19 @@ private Q_SLOTS:
         model->toggleKeep(u"a"_qs);
 
         QTEST(told, "told");
+    }
+
+    void aReceiptIsToldAnewWhereItsWordsStandThereAlready()
+    {
+        const auto model = m_sample.make();
+        model->toggleKeep(u"a"_qs);
+        const auto receipt = model->receipt();
+        const QSignalSpy told(model.get(), &InformationModel::receiptChanged);
+
+        model->toggleKeep(u"b"_qs);
+
+        QCOMPARE(model->receipt(), receipt);
+        QVERIFY(!told.isEmpty());
     }
 
     void changeSignalsFollowTheAssignment()

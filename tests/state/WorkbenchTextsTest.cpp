@@ -23,6 +23,8 @@ private Q_SLOTS:
     {
         QCOMPARE(WorkbenchTexts::preferenceStatusText(2, 5),
                  u"已按你之前的 2 次反馈调整顺序；重要变化不会被完全屏蔽。"_qs);
+        QCOMPARE(WorkbenchTexts::preferenceStatusText(1, 5),
+                 u"已按你之前的 1 次反馈调整顺序；重要变化不会被完全屏蔽。"_qs);
         QCOMPARE(WorkbenchTexts::preferenceStatusText(0, 5),
                  u"已保留之前的 5 条内容调整；后续重要变化仍会重新出现。"_qs);
     }

@@ -76,6 +76,7 @@ private Q_SLOTS:
         QCOMPARE(journal.store(now).error(), u"没有可用的本机存储；这次操作没有保存。"_qs);
         QCOMPARE(journal.workspace(), InformationWorkspace());
         QVERIFY(!journal.loadFailure());
+        QVERIFY(!journal.catchUp());
     }
 
     void leavesAloneAFileThatDoesNotRead()
