@@ -35,6 +35,7 @@ public:
     using QObject::QObject;
 
     QList<QFont> fonts() const;
+    const QFont& bodyFont() const { return m_body->font(); }
 
 private:
     TextStyle* title(int pixelSize, int lineHeight);

@@ -8,6 +8,7 @@
 #include "FirstSize.h"
 #include "FontConfiguration.h"
 #include "FontFamilies.h"
+#include "LetterPictures.h"
 #include "LetterWidths.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
@@ -152,10 +153,15 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     });
     const ScreenReaderStatus screenReader(QDBusConnection::sessionBus());
     chooseFont();
-    for (const auto& font : TypeScale().fonts()) {
+    const TypeScale scale;
+    for (const auto& font : scale.fonts()) {
         LetterWidths::readFromTable(font);
     }
     auto* const model = parts.model();
+    if (const auto focused = model->focusedSignals(); !focused.isEmpty()) {
+        const auto& first = focused.constFirst();
+        LetterPictures::drawAhead(scale.bodyFont(), first.why + first.caveat);
+    }
 
     QQmlComponent view(&engine, viewFile);
     const QQmlComponent firstSurface(&engine, screenFile(u"Today/TodaySurface.qml"_qs),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "LetterWidths.h"
+#include "FreeTypeOutlines.h"
 #include "Subject.h"
 
 #include <QFont>
@@ -8,12 +9,8 @@
 #include <QTest>
 
 #include <cmath>
-#include <dlfcn.h>
-#include <freetype/freetype.h>
 
 namespace {
-
-int outlinesTakenApart = 0;
 
 QFont fontOf(const QString& family, int pixelSize, QFont::Weight weight = QFont::Normal)
 {
@@ -32,21 +29,10 @@ double widthOf(const QFont& font, const QString& text)
 int outlinesFor(const QFont& font, const QString& text)
 {
     widthOf(font, u"信"_qs);
-    outlinesTakenApart = 0;
-    widthOf(font, text);
-    return outlinesTakenApart;
+    return FreeTypeOutlines::takenApartDuring([&] { widthOf(font, text); });
 }
 
 } // namespace
-
-// The linker puts it in the place of FreeType's own, which it calls.
-extern "C" Q_DECL_EXPORT FT_Error FT_Load_Glyph(FT_Face face, FT_UInt glyph, FT_Int32 flags)
-{
-    static const auto ofFreeType =
-        reinterpret_cast<decltype(&FT_Load_Glyph)>(dlsym(RTLD_NEXT, "FT_Load_Glyph"));
-    ++outlinesTakenApart;
-    return ofFreeType(face, glyph, flags);
-}
 
 class LetterWidthsTest : public QObject
 {
