@@ -47,6 +47,9 @@ macro(add_qml_room target)
     if(room_QML_FILES)
         build_qml_code_together(${target})
     endif()
+    if(room_QML_FILES AND NOT qml_compilation)
+        leave_qml_files_out(${target})
+    endif()
     ease_code_that_qt_writes(${target})
     set_property(GLOBAL APPEND PROPERTY CORVANITE_QML_ROOMS ${target})
 endmacro()
@@ -68,6 +71,17 @@ function(add_qml_modules target)
         "${declarations}\nextern void (*const volatile ${target}[])();\nvoid (*const volatile ${target}[])() = {\n${names}};\n")
     add_library(${target} OBJECT ${source})
     target_link_libraries(${target} PUBLIC ${ARGN})
+endfunction()
+
+# Where QML files are compiled into the program, Qt puts the files themselves beside their code, as
+# resources that nobody reads and that each look at any resource goes through. They are the second
+# of a room's resources; its first says what types it has.
+function(leave_qml_files_out target)
+    foreach(property INTERFACE_SOURCES INTERFACE_LINK_LIBRARIES)
+        get_target_property(entries ${target} ${property})
+        list(FILTER entries EXCLUDE REGEX ${target}_resources_2)
+        set_target_properties(${target} PROPERTIES ${property} "${entries}")
+    endforeach()
 endfunction()
 
 # The code that Qt writes for each QML file includes the same large headers, so many such files are

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import CorvaniteInformation.Controls
 
@@ -41,10 +43,13 @@ Pressable {
         }
     }
 
-    FocusRing {
-        shown: control.visualFocus
-        controlRadius: control.radius
-        inside: control.ringInside
+    Optional {
+        when: control.visualFocus
+
+        FocusRing {
+            controlRadius: control.radius
+            inside: control.ringInside
+        }
     }
 
     readonly property bool helpDue: help !== "" && hovered

@@ -34,7 +34,7 @@ T.TextField {
         border.color: field.faulty ? InformationTheme.accent : InformationTheme.control
 
         FocusRing {
-            shown: field.visualFocus
+            visible: field.visualFocus
             controlRadius: field.radius
         }
     }

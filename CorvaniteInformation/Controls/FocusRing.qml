@@ -6,13 +6,11 @@ import CorvaniteInformation.Controls
 /// The ring around a control that has the keyboard's focus, two pixels off its edge; on rows and
 /// cards it lies inside the edge.
 Rectangle {
-    required property bool shown
     property real controlRadius: 0
     property bool inside: false
 
     anchors.fill: parent
     anchors.margins: inside ? 0 : -4
-    visible: shown
     color: "transparent"
     radius: inside ? controlRadius : controlRadius + 4
     border {

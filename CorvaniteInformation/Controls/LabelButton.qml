@@ -36,9 +36,8 @@ AppButton {
         spacing: control.spacing
         layoutDirection: control.iconTrails ? Qt.RightToLeft : Qt.LeftToRight
 
-        // A Loader of 6.4 cannot make a bound component.
-        Repeater {
-            model: control.iconPath === "" ? 0 : 1
+        Optional {
+            when: control.iconPath !== ""
 
             Icon {
                 anchors.verticalCenter: parent?.verticalCenter

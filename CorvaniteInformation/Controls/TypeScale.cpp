@@ -3,7 +3,6 @@
 #include "TypeScale.h"
 
 #include <QFontDatabase>
-#include <QFontMetricsF>
 
 #include <algorithm>
 #include <cstdlib>
@@ -33,11 +32,13 @@ QFont fontOf(const QString& family, int pixelSize, int weight)
 
 } // namespace
 
-void TypeScale::lookUpFonts() const
+QList<QFont> TypeScale::fonts() const
 {
+    QList<QFont> fonts;
     for (const auto* const style : findChildren<TextStyle*>()) {
-        QFontMetricsF(style->font()).horizontalAdvance(u"信A"_qs);
+        fonts.append(style->font());
     }
+    return fonts;
 }
 
 TextStyle* TypeScale::title(int pixelSize, int lineHeight)

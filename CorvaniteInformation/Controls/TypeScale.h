@@ -5,7 +5,7 @@
 #include "FontFamilies.h"
 #include "TextStyle.h"
 
-/// The type scale. A step's font is looked up with its first text, unless that is done ahead.
+/// The type scale.
 class TypeScale : public QObject
 {
     Q_OBJECT
@@ -34,9 +34,8 @@ class TypeScale : public QObject
 public:
     using QObject::QObject;
 
-    /// Looks up every font for Chinese and Latin letters. Fontconfig takes half a millisecond to
-    /// say how one is to be drawn.
-    void lookUpFonts() const;
+    QList<QFont> fonts() const;
+    const QFont& bodyFont() const { return m_body->font(); }
 
 private:
     TextStyle* title(int pixelSize, int lineHeight);

@@ -8,6 +8,8 @@
 #include "FirstSize.h"
 #include "FontConfiguration.h"
 #include "FontFamilies.h"
+#include "LetterPictures.h"
+#include "LetterWidths.h"
 #include "NetworkSiteClient.h"
 #include "ProgramParts.h"
 #include "SchemePalette.h"
@@ -151,14 +153,22 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     });
     const ScreenReaderStatus screenReader(QDBusConnection::sessionBus());
     chooseFont();
-    TypeScale().lookUpFonts();
+    const TypeScale scale;
+    for (const auto& font : scale.fonts()) {
+        LetterWidths::readFromTable(font);
+    }
+    auto* const model = parts.model();
+    if (const auto focused = model->focusedSignals(); !focused.isEmpty()) {
+        const auto& first = focused.constFirst();
+        LetterPictures::drawAhead(scale.bodyFont(), first.why + first.caveat);
+    }
 
     QQmlComponent view(&engine, viewFile);
     const QQmlComponent firstSurface(&engine, screenFile(u"Today/TodaySurface.qml"_qs),
                                      QQmlComponent::Asynchronous);
     const QSize size = FirstSize::within(QGuiApplication::primaryScreen()->availableSize());
     const std::unique_ptr<QObject> root(
-        view.createWithInitialProperties({{u"workbench"_qs, QVariant::fromValue(parts.model())},
+        view.createWithInitialProperties({{u"workbench"_qs, QVariant::fromValue(model)},
                                           {u"width"_qs, size.width()},
                                           {u"height"_qs, size.height()},
                                           {u"reducedMotion"_qs, appearance.reducedMotion()},

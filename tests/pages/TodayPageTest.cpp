@@ -94,6 +94,8 @@ private Q_SLOTS:
     {
         ShownPage<TodayPage> page(fiveSignals());
         QCOMPARE(wordsOf(*page->entries()), words("intro a b c more"));
+        QCOMPARE(page->focusedCount(), 3);
+        QCOMPARE(page->remainingCount(), 2);
 
         page->setShowingRemaining(true);
         QCOMPARE(wordsOf(*page->entries()), words("intro a b c more d e"));

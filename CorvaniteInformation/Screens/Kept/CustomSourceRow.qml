@@ -60,7 +60,7 @@ Pressable {
     }
 
     FocusRing {
-        shown: control.visualFocus
+        visible: control.visualFocus
         controlRadius: InformationTheme.cardRadius
         inside: true
     }

@@ -61,7 +61,7 @@ T.TextArea {
         border.color: InformationTheme.control
 
         FocusRing {
-            shown: keyboard.visual
+            visible: keyboard.visual
             controlRadius: InformationTheme.fieldRadius
         }
     }
