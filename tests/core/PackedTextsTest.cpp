@@ -66,6 +66,16 @@ private Q_SLOTS:
         }
     }
 
+    void decodesTheEdgesOfEveryLengthAlone()
+    {
+        PackedTexts texts;
+        for (const char32_t character : {0x01U, 0x7FU, 0x80U, 0x7FFU, 0x800U, 0xFFFU, 0x1000U,
+                                         0xD7FFU, 0xE000U, 0xFFFFU, 0x10000U, 0x10FFFFU}) {
+            const QString text = QString::fromUcs4(&character, 1);
+            QCOMPARE(packed(texts, text), text);
+        }
+    }
+
     void anEmptyTextIsNotNull()
     {
         PackedTexts texts;
@@ -90,7 +100,8 @@ private Q_SLOTS:
     {
         PackedTexts texts;
         const QString before = packed(texts, u"before"_qs);
-        const QString text(longestPacked / 3 + 1, u'长');
+        const QString text = QString(longestPacked / 3, u'长') + u"aa"_qs;
+        QCOMPARE(text.toUtf8().size(), longestPacked + 1);
         const QString onItsOwn = packed(texts, text);
         const QString after = packed(texts, u"after"_qs);
 
