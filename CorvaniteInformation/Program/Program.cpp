@@ -4,6 +4,7 @@
 
 #include "AppearancePortal.h"
 #include "CommandLine.h"
+#include "DrawingDelay.h"
 #include "ExportKept.h"
 #include "FirstSize.h"
 #include "FontConfiguration.h"
@@ -116,6 +117,7 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
     // Else a screen reader that starts later finds nothing: Qt 6.4 looks for one at the start
     // alone.
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    DrawingDelay::switchOff();
     const QGuiApplication application(argc, argv);
     introduce(version);
 
