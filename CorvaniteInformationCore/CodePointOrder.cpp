@@ -3,6 +3,7 @@
 #include "CodePointOrder.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -20,13 +21,30 @@ char16_t codePointRank(QChar unit)
     return value;
 }
 
+// How many of the units are equal before one differs. Ids begin alike, so four are looked at
+// together.
+qsizetype equalUnits(const char16_t* left, const char16_t* right, qsizetype count)
+{
+    constexpr qsizetype together = 4;
+    qsizetype equal = 0;
+    while (count - equal >= together &&
+           std::memcmp(left + equal, right + equal, together * sizeof(char16_t)) == 0) {
+        equal += together;
+    }
+    while (equal < count && left[equal] == right[equal]) {
+        ++equal;
+    }
+    return equal;
+}
+
 } // namespace
 
 bool codePointLess(QStringView left, QStringView right)
 {
-    const auto [differs, other] = std::ranges::mismatch(left, right);
-    if (differs == left.end() || other == right.end()) {
-        return other != right.end();
+    const qsizetype common = std::min(left.size(), right.size());
+    const qsizetype differs = equalUnits(left.utf16(), right.utf16(), common);
+    if (differs == common) {
+        return right.size() > common;
     }
-    return codePointRank(*differs) < codePointRank(*other);
+    return codePointRank(left[differs]) < codePointRank(right[differs]);
 }

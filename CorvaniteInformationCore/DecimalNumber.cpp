@@ -2,25 +2,17 @@
 
 #include "DecimalNumber.h"
 
-#include <QString>
-
-#include <algorithm>
-
-namespace {
-
-bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
-
-} // namespace
+#include <QtNumeric>
 
 std::optional<qint64> decimalNumber(QStringView text)
 {
-    if (!std::ranges::all_of(text, isDigit)) {
-        return std::nullopt;
+    qint64 number = 0;
+    for (const QChar character : text) {
+        const qint64 digit = character.unicode() - u'0';
+        if (digit < 0 || digit > 9 || qMulOverflow(number, qint64{10}, &number) ||
+            qAddOverflow(number, digit, &number)) {
+            return std::nullopt;
+        }
     }
-    bool reads = false;
-    const qint64 number = text.toLongLong(&reads);
-    return reads ? std::optional(number) : std::nullopt;
+    return text.isEmpty() ? std::nullopt : std::optional(number);
 }

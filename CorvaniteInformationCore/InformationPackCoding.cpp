@@ -82,21 +82,33 @@ LocalizedText readOptionalLocalized(const Object& object, std::string_view key)
     return localized ? readLocalized(*localized) : LocalizedText();
 }
 
+// A name or the like, of which the document has few kinds.
+QString readLabel(const Object& object, std::string_view key)
+{
+    const auto localized = object.optionalObject(key);
+    if (!localized) {
+        return {};
+    }
+    return LocalizedText{.zh = localized->optionalRepeatedString(Key::zh),
+                         .en = localized->optionalRepeatedString(Key::en)}
+        .picked();
+}
+
 InformationRelatedSource readRelatedSource(const Object& object)
 {
     return {
-        .label = readOptionalLocalized(object, Key::label).picked(),
-        .url = object.string(Key::url),
+        .label = readLabel(object, Key::label),
+        .url = object.repeatedString(Key::url),
     };
 }
 
 InformationTimelineEvent readTimelineEvent(const Object& object)
 {
     return {
-        .dateLabel = readOptionalLocalized(object, Key::date).picked(),
-        .date = object.string(Key::datetime),
-        .summary = readOptionalLocalized(object, Key::summary).picked(),
-        .source = readOptionalLocalized(object, Key::source).picked(),
+        .dateLabel = readLabel(object, Key::date),
+        .date = object.repeatedString(Key::datetime),
+        .summary = readLabel(object, Key::summary),
+        .source = readLabel(object, Key::source),
     };
 }
 
@@ -104,12 +116,12 @@ InformationFollowTarget readFollowTarget(const Object& object)
 {
     return {
         .id = object.string(Key::id),
-        .label = readOptionalLocalized(object, Key::label).picked(),
-        .scope = readOptionalLocalized(object, Key::scope).picked(),
-        .url = object.string(Key::url),
+        .label = readLabel(object, Key::label),
+        .scope = readLabel(object, Key::scope),
+        .url = object.repeatedString(Key::url),
         .updateMode = fromRawValue<InformationFollowUpdateMode>(object.token(Key::updateMode))
                           .value_or(InformationFollowUpdateMode::SnapshotBaseline),
-        .discoveryRef = object.optionalString(Key::discoveryRef),
+        .discoveryRef = object.optionalRepeatedString(Key::discoveryRef),
     };
 }
 
@@ -119,8 +131,8 @@ InformationSupportingEvidence readSupportingEvidence(const Object& object)
         .role = object.token(Key::role) == businessFactRole
                     ? InformationSupportingEvidenceRole::BusinessFact
                     : InformationSupportingEvidenceRole::ProductFact,
-        .observationRef = object.string(Key::observationRef),
-        .changeRef = object.string(Key::changeRef),
+        .observationRef = object.repeatedString(Key::observationRef),
+        .changeRef = object.repeatedString(Key::changeRef),
     };
 }
 
@@ -130,11 +142,11 @@ InformationIngestion readIngestion(const Object& object)
     object.token(Key::mode);
     return {
         .mode = InformationIngestionMode::Editorial,
-        .adapter = object.string(Key::adapter),
+        .adapter = object.repeatedString(Key::adapter),
         .evidenceClass = fromRawValue<InformationEvidenceClass>(object.token(Key::evidenceClass))
                              .value_or(InformationEvidenceClass::CreatorSelfReport),
-        .observationRef = object.optionalString(Key::observationRef),
-        .changeRef = object.optionalString(Key::changeRef),
+        .observationRef = object.optionalRepeatedString(Key::observationRef),
+        .changeRef = object.optionalRepeatedString(Key::changeRef),
         .supportingEvidence = object.optionalList(Key::supportingEvidence, readSupportingEvidence),
     };
 }
@@ -151,7 +163,7 @@ InformationSignal readSignal(const Object& object)
         .observedAt = object.string(Key::observedAt),
         .originalURL = object.string(Key::originalUrl),
         .relatedSources = object.optionalList(Key::relatedSources, readRelatedSource),
-        .source = readOptionalLocalized(object, Key::source).picked(),
+        .source = readLabel(object, Key::source),
         .title = readLocalized(object.object(Key::title)).picked(),
         .summary = readOptionalLocalized(object, Key::summary).picked(),
         .updateSummary = readOptionalLocalized(object, Key::updateSummary).zh,

@@ -9,28 +9,13 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
 #include <utility>
 #include <vector>
 
 namespace {
 
 constexpr qint64 millisecondsPerDay = 86'400'000;
-
-using NewestByTarget = QHash<QString, const InformationSignal*>;
-
-// For each follow target its newest signal; of equally new ones the first.
-NewestByTarget newestByTarget(const QList<InformationSignal>& signals)
-{
-    NewestByTarget newest;
-    newest.reserve(signals.size());
-    for (const InformationSignal& signal : signals) {
-        const InformationSignal*& pick = newest[signal.followTarget.id];
-        if (!pick || codePointLess(pick->observedAt, signal.observedAt)) {
-            pick = &signal;
-        }
-    }
-    return newest;
-}
 
 // What is picked is copied once, at the end: a signal is large.
 using Picks = std::vector<const InformationSignal*>;
@@ -43,6 +28,46 @@ QList<InformationSignal> copies(const Picks& picks)
         signals.append(*signal);
     }
     return signals;
+}
+
+// The signals by their follow targets; a thread is a number from 0 on.
+struct Threads
+{
+    QHash<QString, std::optional<size_t>> byTarget;
+    // By the signal's position.
+    std::vector<size_t> ofSignals;
+    // By thread; of equally new signals the first.
+    Picks newest;
+};
+
+Threads threadsOf(const QList<InformationSignal>& signals)
+{
+    Threads threads;
+    threads.byTarget.reserve(signals.size());
+    threads.ofSignals.reserve(static_cast<size_t>(signals.size()));
+    for (const InformationSignal& signal : signals) {
+        auto& thread = threads.byTarget[signal.followTarget.id];
+        if (!thread) {
+            thread = threads.newest.size();
+            threads.newest.push_back(&signal);
+        } else if (codePointLess(threads.newest[*thread]->observedAt, signal.observedAt)) {
+            threads.newest[*thread] = &signal;
+        }
+        threads.ofSignals.push_back(*thread);
+    }
+    return threads;
+}
+
+// In the order of following.
+std::vector<size_t> followedThreads(const QList<QString>& following, const Threads& threads)
+{
+    std::vector<size_t> followed;
+    for (const QString& target : following) {
+        if (const auto thread = threads.byTarget.value(target)) {
+            followed.push_back(*thread);
+        }
+    }
+    return followed;
 }
 
 void append(Picks& picks, const Picks& further)
@@ -160,18 +185,6 @@ std::vector<SavedSignal> lastSavedFirst(const InformationWorkspace::SavedMap& en
     return saved;
 }
 
-// For each followed target its newest signal, in the order of following.
-Picks followedPicks(const QList<QString>& following, const NewestByTarget& newest)
-{
-    Picks followed;
-    for (const QString& target : following) {
-        if (const InformationSignal* signal = newest.value(target)) {
-            followed.push_back(signal);
-        }
-    }
-    return followed;
-}
-
 } // namespace
 
 QList<InformationSignal> InformationProjection::today(const QList<InformationSignal>& signals,
@@ -207,36 +220,40 @@ InformationProjection::remainingToday(const QList<InformationSignal>& signals,
 QList<InformationSignal> InformationProjection::kept(const QList<InformationSignal>& signals,
                                                      const InformationWorkspace& workspace)
 {
-    const NewestByTarget newest = newestByTarget(signals);
-    const Picks followed = followedPicks(workspace.following, newest);
-    QSet<QString> followedTargets;
-    followedTargets.reserve(newest.size());
-    for (const InformationSignal* signal : followed) {
-        followedTargets.insert(signal->followTarget.id);
+    const Threads threads = threadsOf(signals);
+    const auto followed = followedThreads(workspace.following, threads);
+    std::vector<bool> isFollowed(threads.newest.size());
+    for (const size_t thread : followed) {
+        isFollowed[thread] = true;
     }
 
     Picks shown;
-    QSet<QString> shownTargets;
-    shownTargets.reserve(newest.size());
-    const auto show = [&shown, &shownTargets](const InformationSignal* signal) {
-        const auto countBefore = shownTargets.size();
-        shownTargets.insert(signal->followTarget.id);
-        if (shownTargets.size() > countBefore) {
+    std::vector<bool> isShown(threads.newest.size());
+    const auto show = [&](size_t thread, const InformationSignal* signal) {
+        if (!isShown[thread]) {
+            isShown[thread] = true;
             shown.push_back(signal);
         }
     };
     for (const auto& [savedAt, signal] : lastSavedFirst(workspace.saved, pointersById(signals))) {
-        const QString& target = signal->followTarget.id;
-        show(followedTargets.contains(target) ? newest.value(target) : signal);
+        const size_t thread = threads.ofSignals[static_cast<size_t>(signal - signals.constData())];
+        show(thread, isFollowed[thread] ? threads.newest[thread] : signal);
     }
-    std::ranges::for_each(followed, show);
+    for (const size_t thread : followed) {
+        show(thread, threads.newest[thread]);
+    }
     return copies(shown);
 }
 
 QList<InformationSignal> InformationProjection::following(const QList<InformationSignal>& signals,
                                                           const InformationWorkspace& workspace)
 {
-    return copies(followedPicks(workspace.following, newestByTarget(signals)));
+    const Threads threads = threadsOf(signals);
+    Picks newest;
+    for (const size_t thread : followedThreads(workspace.following, threads)) {
+        newest.push_back(threads.newest[thread]);
+    }
+    return copies(newest);
 }
 
 QString InformationProjection::versionKey(const InformationSignal& signal)

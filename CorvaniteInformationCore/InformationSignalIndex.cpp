@@ -18,10 +18,11 @@ QHash<QString, const InformationSignal*> pointersById(const QList<InformationSig
     QHash<QString, const InformationSignal*> pointers;
     pointers.reserve(signals.size());
     for (const InformationSignal& signal : signals) {
-        if (pointers.contains(signal.id)) {
+        const InformationSignal*& pointer = pointers[signal.id];
+        if (pointer) {
             qFatal("two signals have the id \"%s\"", qUtf8Printable(signal.id));
         }
-        pointers.insert(signal.id, &signal);
+        pointer = &signal;
     }
     return pointers;
 }

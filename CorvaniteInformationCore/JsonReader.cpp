@@ -6,43 +6,6 @@
 #include <cmath>
 #include <functional>
 
-namespace {
-
-char32_t bitsOf(char byte, int mask)
-{
-    return static_cast<char32_t>(byte & mask);
-}
-
-// Of UTF-8 to the letter, which simdjson makes sure of. Gives the end of the units.
-char16_t* decodeUtf8(std::string_view utf8, char16_t* unit)
-{
-    const char* byte = utf8.data();
-    const char* const end = byte + utf8.size();
-    while (byte != end) {
-        const auto lead = static_cast<unsigned char>(*byte);
-        if (lead < 0x80) {
-            *unit++ = lead;
-            byte += 1;
-        } else if (lead < 0xE0) {
-            *unit++ = static_cast<char16_t>(bitsOf(byte[0], 0x1F) << 6 | bitsOf(byte[1], 0x3F));
-            byte += 2;
-        } else if (lead < 0xF0) {
-            *unit++ = static_cast<char16_t>(bitsOf(byte[0], 0x0F) << 12 |
-                                            bitsOf(byte[1], 0x3F) << 6 | bitsOf(byte[2], 0x3F));
-            byte += 3;
-        } else {
-            const char32_t character = bitsOf(byte[0], 0x07) << 18 | bitsOf(byte[1], 0x3F) << 12 |
-                                       bitsOf(byte[2], 0x3F) << 6 | bitsOf(byte[3], 0x3F);
-            *unit++ = QChar::highSurrogate(character);
-            *unit++ = QChar::lowSurrogate(character);
-            byte += 4;
-        }
-    }
-    return unit;
-}
-
-} // namespace
-
 JsonReader::JsonReader(QByteArrayView document)
 {
     simdjson::dom::element root;
@@ -68,25 +31,11 @@ JsonReader::Object JsonReader::root()
     return Object(*this, object);
 }
 
-QString JsonReader::fromUtf8(std::string_view utf8)
+QString JsonReader::repeated(std::string_view utf8)
 {
-    // A text never has more units than bytes, and Chinese a third of them: what is kept is as long
-    // as the text.
-    m_units.resize(std::max(m_units.size(), utf8.size()));
-    const char16_t* const end = decodeUtf8(utf8, m_units.data());
-    return QString(reinterpret_cast<const QChar*>(m_units.data()), end - m_units.data());
-}
-
-// Names, labels and addresses come again and again: they are decoded once, and kept once.
-QString JsonReader::shared(std::string_view utf8)
-{
-    constexpr size_t longestRepeated = 96;
-    if (utf8.empty() || utf8.size() > longestRepeated) {
-        return fromUtf8(utf8);
-    }
     Known& known = m_known[std::hash<std::string_view>()(utf8) % m_known.size()];
     if (known.utf8 != utf8) {
-        known = {.utf8 = utf8, .text = fromUtf8(utf8)};
+        known = {.utf8 = utf8, .text = m_texts.fromUtf8(utf8)};
     }
     return known.text;
 }
@@ -94,7 +43,7 @@ QString JsonReader::shared(std::string_view utf8)
 void JsonReader::fail(Error::Kind kind, std::string_view key)
 {
     if (!m_error) {
-        m_error = Error{kind, fromUtf8(key)};
+        m_error = Error{kind, m_texts.fromUtf8(key)};
     }
 }
 
@@ -108,6 +57,18 @@ std::optional<QString> JsonReader::Object::optionalString(std::string_view key) 
 {
     const auto element = find(key);
     return element ? std::optional(text(key, *element)) : std::nullopt;
+}
+
+QString JsonReader::Object::repeatedString(std::string_view key) const
+{
+    const auto element = require(key);
+    return element ? repeatedText(key, *element) : QString();
+}
+
+std::optional<QString> JsonReader::Object::optionalRepeatedString(std::string_view key) const
+{
+    const auto element = find(key);
+    return element ? std::optional(repeatedText(key, *element)) : std::nullopt;
 }
 
 QLatin1StringView JsonReader::Object::token(std::string_view key) const
@@ -159,14 +120,16 @@ void JsonReader::Object::refuse(std::string_view key) const
 
 std::optional<simdjson::dom::element> JsonReader::Object::find(std::string_view key) const
 {
-    simdjson::dom::element element;
-    if (m_object && m_next != m_object->end() && m_next.key_equals(key)) {
-        element = m_next.value();
-        ++m_next;
-    } else if (!m_object || m_object->at_key(key).get(element) != simdjson::SUCCESS) {
-        return std::nullopt;
+    for (auto member = m_next; member != m_end; ++member) {
+        if (member.key_equals(key)) {
+            const simdjson::dom::element element = member.value();
+            if (member == m_next) {
+                ++m_next;
+            }
+            return element.is_null() ? std::nullopt : std::optional(element);
+        }
     }
-    return element.is_null() ? std::nullopt : std::optional(element);
+    return std::nullopt;
 }
 
 std::optional<simdjson::dom::element> JsonReader::Object::require(std::string_view key) const
@@ -201,7 +164,12 @@ std::string_view JsonReader::Object::utf8(std::string_view key,
 
 QString JsonReader::Object::text(std::string_view key, simdjson::dom::element element) const
 {
-    return m_reader->shared(utf8(key, element));
+    return m_reader->m_texts.fromUtf8(utf8(key, element));
+}
+
+QString JsonReader::Object::repeatedText(std::string_view key, simdjson::dom::element element) const
+{
+    return m_reader->repeated(utf8(key, element));
 }
 
 qint64 JsonReader::Object::wholeNumber(std::string_view key, simdjson::dom::element element) const

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "PackedTexts.h"
+
 #include <QByteArrayView>
 #include <QLatin1StringView>
 #include <QList>
@@ -44,13 +46,19 @@ public:
     /// A required key must be there with a value of its type. An optional key may be missing or
     /// null, which gives nothing or an empty list; any other value must be of its type too.
     ///
-    /// Keys are found in any order, and fastest in the document's. A key that the document repeats
-    /// has its first value when it is asked for once.
+    /// Each key is asked for once, in any order, and found fastest in the document's. A key that
+    /// the document repeats has its first value.
     class Object
     {
     public:
         QString string(std::string_view key) const;
         std::optional<QString> optionalString(std::string_view key) const;
+
+        /// The same of a text that the document is likely to repeat, as names and labels are: it is
+        /// decoded once, and kept once.
+        QString repeatedString(std::string_view key) const;
+        std::optional<QString> optionalRepeatedString(std::string_view key) const;
+
         /// The bytes of a required string, to be compared with ASCII; valid as long as the reader.
         QLatin1StringView token(std::string_view key) const;
 
@@ -82,9 +90,10 @@ public:
     private:
         friend class JsonReader;
 
+        /// Where no object was found: without a member.
         explicit Object(JsonReader& reader) : m_reader(&reader) {}
         Object(JsonReader& reader, simdjson::dom::object object)
-            : m_reader(&reader), m_object(object), m_next(object.begin())
+            : m_reader(&reader), m_next(object.begin()), m_end(object.end())
         {
         }
 
@@ -94,6 +103,7 @@ public:
                                                   simdjson::dom::element element) const;
         std::string_view utf8(std::string_view key, simdjson::dom::element element) const;
         QString text(std::string_view key, simdjson::dom::element element) const;
+        QString repeatedText(std::string_view key, simdjson::dom::element element) const;
         qint64 wholeNumber(std::string_view key, simdjson::dom::element element) const;
         Object nested(std::string_view key, simdjson::dom::element element) const;
         QList<QString> texts(std::string_view key, simdjson::dom::element element) const;
@@ -101,11 +111,19 @@ public:
         QList<std::invoke_result_t<Read, Object>>
         values(std::string_view key, simdjson::dom::element element, Read read) const;
 
+        /// Becomes what it makes, there where that is to stand: a value is large.
+        template <typename Make>
+        struct InPlace
+        {
+            Make make;
+
+            operator std::invoke_result_t<Make>() const { return make(); }
+        };
+
         JsonReader* m_reader;
-        /// Nothing where no object was found.
-        std::optional<simdjson::dom::object> m_object;
         /// The member behind those that were found in the document's order.
         mutable simdjson::dom::object::iterator m_next;
+        simdjson::dom::object::iterator m_end;
     };
 
     explicit JsonReader(QByteArrayView document);
@@ -117,23 +135,21 @@ public:
     const std::optional<Error>& error() const { return m_error; }
 
 private:
-    QString fromUtf8(std::string_view utf8);
-    QString shared(std::string_view utf8);
+    QString repeated(std::string_view utf8);
 
     void fail(Error::Kind kind, std::string_view key);
 
     simdjson::dom::parser m_parser;
     std::optional<simdjson::dom::element> m_root;
     std::optional<Error> m_error;
-    /// Where texts are decoded.
-    std::u16string m_units;
+    PackedTexts m_texts;
 
     struct Known
     {
         std::string_view utf8;
         QString text;
     };
-    /// The last texts that were read, each at the place of its hash.
+    /// The last repeated texts that were read, each at the place of its hash.
     std::array<Known, 1024> m_known;
 };
 
@@ -166,7 +182,7 @@ JsonReader::Object::values(std::string_view key, simdjson::dom::element element,
     }
     result.reserve(static_cast<qsizetype>(elements->size()));
     for (const auto entry : *elements) {
-        result.append(read(nested(key, entry)));
+        result.emplaceBack(InPlace{[&] { return read(nested(key, entry)); }});
         if (m_reader->m_error) {
             return {};
         }
@@ -177,14 +193,11 @@ JsonReader::Object::values(std::string_view key, simdjson::dom::element element,
 template <typename Visit>
 void JsonReader::Object::forEachMember(Visit visit) const
 {
-    if (!m_object) {
-        return;
-    }
-    for (const auto& member : *m_object) {
-        const Object value = nested(member.key, member.value);
+    for (auto member = m_next; member != m_end; ++member) {
+        const Object value = nested(member.key(), member.value());
         if (m_reader->m_error) {
             return;
         }
-        visit(m_reader->fromUtf8(member.key), value);
+        visit(m_reader->m_texts.fromUtf8(member.key()), value);
     }
 }

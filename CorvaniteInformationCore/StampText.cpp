@@ -2,11 +2,30 @@
 
 #include "StampText.h"
 
-#include "InformationProjection.h"
+#include <algorithm>
 
 using namespace std::chrono;
 
 namespace {
+
+constexpr QStringView form = u"0000-00-00T00:00:00Z";
+
+// Whether it has a digit wherever the form has one, and else the same.
+bool hasForm(QStringView text)
+{
+    return std::ranges::equal(text, form, [](QChar character, QChar expected) {
+        return expected == u'0' ? character >= u'0' && character <= u'9' : character == expected;
+    });
+}
+
+int readDigits(QStringView digits)
+{
+    int number = 0;
+    for (const QChar digit : digits) {
+        number = number * 10 + (digit.unicode() - u'0');
+    }
+    return number;
+}
 
 void writeDigits(QChar* begin, qsizetype width, int number)
 {
@@ -17,13 +36,13 @@ void writeDigits(QChar* begin, qsizetype width, int number)
 
 } // namespace
 
-// By hand, for a save writes thousands of them.
+// By hand, for thousands are read and written.
 QString StampText::of(sys_seconds time)
 {
     const sys_days day = floor<days>(time);
     const year_month_day date{day};
     const hh_mm_ss clock{time - day};
-    QString text = u"0000-00-00T00:00:00Z"_qs;
+    QString text = form.toString();
     QChar* const characters = text.data();
     writeDigits(characters, 4, int{date.year()});
     writeDigits(characters + 5, 2, static_cast<int>(unsigned{date.month()}));
@@ -36,10 +55,19 @@ QString StampText::of(sys_seconds time)
 
 std::optional<sys_seconds> StampText::read(QStringView text)
 {
-    const auto read = InformationProjection::fastISOSeconds(text);
-    if (!read) {
+    if (!hasForm(text)) {
         return std::nullopt;
     }
-    const sys_seconds time{seconds{static_cast<qint64>(*read)}};
-    return of(time) == text ? std::optional(time) : std::nullopt;
+    const auto number = [text](qsizetype begin, qsizetype width) {
+        return readDigits(text.sliced(begin, width));
+    };
+    const year_month_day date{year{number(0, 4)}, month{static_cast<unsigned>(number(5, 2))},
+                              day{static_cast<unsigned>(number(8, 2))}};
+    const int hour = number(11, 2);
+    const int minute = number(14, 2);
+    const int second = number(17, 2);
+    if (!date.ok() || hour > 23 || minute > 59 || second > 59) {
+        return std::nullopt;
+    }
+    return sys_days{date} + hours{hour} + minutes{minute} + seconds{second};
 }

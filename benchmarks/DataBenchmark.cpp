@@ -18,6 +18,7 @@
 #include "WeeklyDigest.h"
 
 #include <QFile>
+#include <QHashFunctions>
 
 #include <benchmark/benchmark.h>
 #include <simdjson.h>
@@ -220,6 +221,8 @@ void addDigests(const Content& content)
 
 int main(int argc, char* argv[])
 {
+    // As in the program.
+    QHashSeed::setDeterministicGlobalSeed();
     benchmark::Initialize(&argc, argv);
     if (argc != 2) {
         return EXIT_FAILURE;

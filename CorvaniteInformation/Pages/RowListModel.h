@@ -41,6 +41,13 @@ public:
             }
             return;
         }
+        // And at first there is nothing to compare.
+        if (m_rows.isEmpty()) {
+            beginInsertRows({}, 0, static_cast<int>(rows.size() - 1));
+            m_rows = rows;
+            endInsertRows();
+            return;
+        }
         removeRowsMissingFrom(rows);
         KeyCounts waiting = countKeys(m_rows);
         // From here on, every row before `position` is the wanted one.

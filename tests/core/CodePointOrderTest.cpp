@@ -36,6 +36,24 @@ private Q_SLOTS:
         QCOMPARE(codePointLess(left, right), less);
     }
 
+    void theFirstDifferenceDecidesWhereverItIs()
+    {
+        for (qsizetype length = 1; length <= 12; ++length) {
+            const QString text(length, u'm');
+            for (qsizetype at = 0; at < length; ++at) {
+                QString greater(length, u'a');
+                greater.replace(0, at, text.first(at));
+                greater[at] = u'n';
+
+                QVERIFY(codePointLess(text, greater));
+                QVERIFY(!codePointLess(greater, text));
+            }
+            QVERIFY(!codePointLess(text, text));
+            QVERIFY(codePointLess(text.chopped(1), text));
+            QVERIFY(!codePointLess(text, text.chopped(1)));
+        }
+    }
+
     void theEdgesOfThePlanesStandInOrder()
     {
         const QStringList ascending{u"\uD7FF"_qs,     u"\uE000"_qs,    u"\uF7FF"_qs,

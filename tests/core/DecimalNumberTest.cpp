@@ -23,11 +23,15 @@ private Q_SLOTS:
         row("zero", u"0"_qs, 0);
         row("leading zeros", u"007"_qs, 7);
         row("greatest", u"9223372036854775807"_qs, std::numeric_limits<qint64>::max());
+        row("greatest behind zeros", u"0009223372036854775807"_qs,
+            std::numeric_limits<qint64>::max());
         row("one more", u"9223372036854775808"_qs, std::nullopt);
         row("far more", u"99999999999999999999"_qs, std::nullopt);
         row("empty", QString(), std::nullopt);
         row("sign", u"+1"_qs, std::nullopt);
         row("minus", u"-1"_qs, std::nullopt);
+        row("behind the digits", u"1:"_qs, std::nullopt);
+        row("before the digits", u"1/"_qs, std::nullopt);
         row("white space", u" 1"_qs, std::nullopt);
         row("hexadecimal", u"1f"_qs, std::nullopt);
         row("full-width digits", u"１２"_qs, std::nullopt);

@@ -49,7 +49,15 @@ private Q_SLOTS:
         QTest::newRow("small t") << u"2026-09-01t01:02:03Z"_qs;
         QTest::newRow("small z") << u"2026-09-01T01:02:03z"_qs;
         QTest::newRow("31 February") << u"2026-02-31T01:02:03Z"_qs;
+        QTest::newRow("29 February of a common year") << u"2026-02-29T01:02:03Z"_qs;
+        QTest::newRow("day 0") << u"2026-09-00T01:02:03Z"_qs;
+        QTest::newRow("month 0") << u"2026-00-01T01:02:03Z"_qs;
+        QTest::newRow("month 13") << u"2026-13-01T01:02:03Z"_qs;
+        QTest::newRow("hour 24") << u"2026-09-01T24:00:00Z"_qs;
+        QTest::newRow("minute 60") << u"2026-09-01T01:60:03Z"_qs;
         QTest::newRow("second 60") << u"2026-09-01T01:02:60Z"_qs;
+        QTest::newRow("something before") << u" 2026-09-01T01:02:03Z"_qs;
+        QTest::newRow("something behind") << u"2026-09-01T01:02:03Z "_qs;
     }
 
     void readsOnlyWhatItWrites()
@@ -57,6 +65,18 @@ private Q_SLOTS:
         QFETCH(QString, text);
 
         QVERIFY(!StampText::read(text));
+    }
+
+    void everyCharacterCounts()
+    {
+        const QString stamp = u"2026-09-01T01:02:03Z"_qs;
+        for (qsizetype at = 0; at < stamp.size(); ++at) {
+            for (const QChar other : u"/:-TZ ٣１"_qs) {
+                QString text = stamp;
+                text[at] = other;
+                QCOMPARE(StampText::read(text).has_value(), text == stamp);
+            }
+        }
     }
 };
 
