@@ -101,7 +101,7 @@ private Q_SLOTS:
         auto* const ground = note()->property("background").value<QQuickItem*>();
         QCOMPARE(QQmlProperty::read(ground, u"border.width"_qs).toInt(), 1);
         auto* const shown = ScreenReader::findIf(ground, [](QQuickItem* item) {
-            return item->metaObject()->indexOfProperty("shown") >= 0;
+            return item->metaObject()->indexOfProperty("controlRadius") >= 0 && item->isVisible();
         });
         QCOMPARE(shown != nullptr, ring);
     }

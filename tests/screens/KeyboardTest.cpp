@@ -251,7 +251,7 @@ private:
     {
         const auto children = control->childItems();
         const auto ring = std::ranges::find_if(children, [](const QQuickItem* child) {
-            return child->metaObject()->indexOfProperty("shown") >= 0 && child->isVisible();
+            return child->metaObject()->indexOfProperty("controlRadius") >= 0 && child->isVisible();
         });
         if (ring == children.cend()) {
             m_faults.append(u"no ring: "_qs + ScreenReader::name(control));
