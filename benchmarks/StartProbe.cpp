@@ -3,8 +3,9 @@
 // Starts a command and tells when its content stands on the screen:
 //   start_probe PICTURE COMMAND...
 // PICTURE is the screen as it is once the command has come to rest, four bytes a pixel. Prints,
-// after "probe:", the process number, and with the content the seconds since the start and the
-// processor seconds used until then; then waits for the command's end.
+// after "probe:", the process number, then, once half of the content stands there and once nearly
+// all of it does, the seconds since the start and the processor seconds used until then; then waits
+// for the command's end.
 
 #include "WatchedScreen.h"
 
@@ -17,12 +18,16 @@
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
+#include <queue>
 #include <vector>
 
 namespace {
 
 constexpr std::uint32_t colour = 0xffffff;
 constexpr auto patience = std::chrono::minutes(5);
+/// Of a hundred.
+constexpr size_t half = 50;
+constexpr size_t nearlyAll = 98;
 
 /// The outlines of what stands on the screen at rest: pixels that differ from their left neighbour.
 class Outlines
@@ -37,14 +42,14 @@ public:
         }
     }
 
-    /// Whether at least half of them stand there.
-    bool standIn(std::span<const std::uint32_t> pixels) const
+    /// How many of a hundred stand there.
+    size_t standingIn(std::span<const std::uint32_t> pixels) const
     {
         size_t standing = 0;
         for (const size_t at : m_places) {
             standing += isSame(pixels, at) && isSame(pixels, at - 1) ? 1 : 0;
         }
-        return standing * 2 >= m_places.size();
+        return m_places.empty() ? 100 : 100 * standing / m_places.size();
     }
 
 private:
@@ -104,15 +109,20 @@ int main(int argc, char* argv[])
     const pid_t process = start(argv + 2);
     std::printf("probe: %d\n", process);
     std::fflush(stdout);
-    while (const auto drawn = screen.nextDamage(begin + patience)) {
-        const double processor = processorSeconds(process);
-        if (outlines.standIn(screen.pixels())) {
-            std::printf("probe: %.6f %.6f\n", std::chrono::duration<double>(*drawn - begin).count(),
-                        processor);
+    std::queue<size_t> shares({half, nearlyAll});
+    while (!shares.empty()) {
+        const auto drawn = screen.nextDamage(begin + patience);
+        if (!drawn) {
             break;
         }
+        const double processor = processorSeconds(process);
+        const size_t standing = outlines.standingIn(screen.pixels());
+        for (; !shares.empty() && standing >= shares.front(); shares.pop()) {
+            std::printf("probe: %.6f %.6f\n", std::chrono::duration<double>(*drawn - begin).count(),
+                        processor);
+        }
+        std::fflush(stdout);
     }
-    std::fflush(stdout);
     waitpid(process, nullptr, 0);
     return EXIT_SUCCESS;
 }
