@@ -34,7 +34,8 @@ ListView {
     clip: true
     currentIndex: -1
     displayMarginBeginning: Math.max(reach, wayOfTab.above)
-    displayMarginEnd: Math.max(reach, wayOfTab.below)
+    // What is read first stands in the upper half.
+    displayMarginEnd: RowReach.opening ? -height / 2 : Math.max(reach, wayOfTab.below)
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: false
 

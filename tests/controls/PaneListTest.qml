@@ -60,6 +60,16 @@ TestCase {
         verify(list.contentY > before);
     }
 
+    function test_untilTheWindowHasDrawnOnceTheUpperHalfIsEnough() {
+        RowReach.opening = true;
+        list.forceLayout();
+        verify(list.itemAtIndex(1) !== null);
+        compare(list.itemAtIndex(2), null);
+        RowReach.opening = false;
+        list.forceLayout();
+        verify(list.itemAtIndex(2) !== null);
+    }
+
     function test_whatIsAtTheTopStaysThereWhenTheRoomAboveItChanges() {
         list.topMargin = 80;
         compare(list.contentY, beginning);

@@ -47,6 +47,38 @@ private Q_SLOTS:
         QVERIFY(window->flags().testFlag(Qt::FramelessWindowHint));
     }
 
+    void whatIsReadFirstStandsWithTheFirstFrameAndTheRestWithTheSecond()
+    {
+        m_window.reset();
+        m_model = m_sample->make();
+        m_sample->site->requests.clear();
+        QStringList frames;
+        const auto look = [this, &frames](QQuickItem* content) {
+            QStringList there;
+            for (const auto& [name, role] : {std::pair(u"Title of a"_qs, QAccessible::ListItem),
+                                             std::pair(u"Title of b"_qs, QAccessible::ListItem),
+                                             std::pair(u"今日全部"_qs, QAccessible::List)}) {
+                if (ScreenReader::find(content, name, role)) {
+                    there.append(name);
+                }
+            }
+            there.append(QString::number(m_sample->site->requests.size()));
+            frames.append(there.join(u' '));
+        };
+        m_window.emplace(*m_model, QSize(1120, 780), [&look](QQmlEngine& engine) {
+            connect(qobject_cast<QQmlApplicationEngine*>(&engine),
+                    &QQmlApplicationEngine::objectCreated, &engine, [&look](QObject* made) {
+                        const auto* const window = qobject_cast<QQuickWindow*>(made);
+                        connect(window, &QQuickWindow::afterRendering, window,
+                                [&look, window] { look(window->contentItem()); });
+                    });
+        });
+        QTRY_COMPARE(m_sample->site->requests.size(), 1);
+        m_window.reset();
+        QCOMPARE(frames.first(2),
+                 (QStringList{u"Title of a 0"_qs, u"Title of a Title of b 今日全部 0"_qs}));
+    }
+
     void rolesAndNames_data()
     {
         QTest::addColumn<QAccessible::Role>("role");

@@ -2,6 +2,7 @@
 
 #include "WorkbenchWindow.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 namespace {
@@ -39,8 +40,13 @@ WorkbenchWindow::WorkbenchWindow(InformationModel& model, QSize size,
         qFatal("The window cannot be made: %s", qPrintable(m_warnings.join(u'\n')));
     }
     m_window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().constFirst());
+    const QSignalSpy frames(m_window, &QQuickWindow::frameSwapped);
     if (!QTest::qWaitForWindowActive(m_window)) {
         qFatal("The window does not become active.");
+    }
+    // With the second everything is there that is seen.
+    if (!QTest::qWaitFor([&frames] { return frames.size() >= 2; })) {
+        qFatal("The window does not draw.");
     }
     ScreenReader::start();
 }

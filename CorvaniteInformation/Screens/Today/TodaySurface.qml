@@ -126,7 +126,7 @@ FocusScope {
     }
 
     Optional {
-        when: surface.twoPanes
+        when: surface.twoPanes && !RowReach.opening
 
         TodayRail {
             x: column.width

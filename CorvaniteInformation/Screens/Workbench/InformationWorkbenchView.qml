@@ -27,15 +27,24 @@ Window {
     flags: Qt.Window + Qt.FramelessWindowHint
     color: InformationTheme.canvas
 
-    // After the first frame, which nothing may delay, and after no other.
+    /// Nothing has been drawn yet.
+    property bool opening: true
+
+    // With the first frame stands what is read first, with the second all else. What is not seen comes
+    // after both.
     Connections {
-        id: firstFrame
+        id: firstFrames
 
         target: window
 
         function onFrameSwapped() {
-            firstFrame.target = null;
-            window.workbench.probeAppUpdateOnce();
+            if (window.opening) {
+                window.opening = false;
+                window.update();
+            } else {
+                firstFrames.target = null;
+                window.workbench.probeAppUpdateOnce();
+            }
         }
     }
 
@@ -207,6 +216,12 @@ Window {
         target: RowReach
         property: "readAloud"
         value: window.readAloud
+    }
+
+    Binding {
+        target: RowReach
+        property: "opening"
+        value: window.opening
     }
 
     Instantiator {
