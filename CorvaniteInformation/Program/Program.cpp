@@ -9,6 +9,7 @@
 #include "FirstSize.h"
 #include "FontConfiguration.h"
 #include "FontFamilies.h"
+#include "FontPages.h"
 #include "LetterPictures.h"
 #include "LetterWidths.h"
 #include "NetworkSiteClient.h"
@@ -33,11 +34,16 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QScreen>
+#include <QTimer>
 
+#include <chrono>
 #include <cstdio>
 #include <memory>
 
 namespace {
+
+/// After which the letters of the start are read.
+constexpr std::chrono::seconds startRead(1);
 
 QStringList argumentsOf(int argc, char* argv[])
 {
@@ -191,6 +197,12 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
             parts.catchUp();
         }
     });
+    QObject::connect(&application, &QGuiApplication::applicationStateChanged, [](auto state) {
+        if (state != Qt::ApplicationActive) {
+            FontPages::giveBack();
+        }
+    });
+    QTimer::singleShot(startRead, &application, &FontPages::giveBack);
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::endRequested, window,
                      &QWindow::close);
