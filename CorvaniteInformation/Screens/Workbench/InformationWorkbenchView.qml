@@ -158,13 +158,17 @@ Window {
             page: framePage
         }
 
-        ReceiptBar {
-            anchors.horizontalCenter: parent.horizontalCenter
-            anchors.bottom: footer.top
-            anchors.bottomMargin: 16
-            workbench: window.workbench
-            maximumWidth: window.width - 48
-            home: surfaces
+        Optional {
+            when: !window.opening
+
+            ReceiptBar {
+                anchors.horizontalCenter: parent.horizontalCenter
+                anchors.bottom: footer.top
+                anchors.bottomMargin: 16
+                workbench: window.workbench
+                maximumWidth: window.width - 48
+                home: surfaces
+            }
         }
 
         // In its sheet a screen reader would say the sheet's name before each, and an empty one after it.
