@@ -49,7 +49,8 @@ class Figures:
 
     content_ms: float
     content_processor_ms: float
-    whole_ms: float
+    whole_ms: float | None
+    """None where what stands there at rest is not the same after every start."""
     rest_processor_ms: float
     memory_mb: float
 
@@ -80,13 +81,13 @@ class Measured:
         with Started(self._probe(self.subject.command)) as started:
             content, processor = started.wait_for_content(SETTLING * 4)
             time.sleep(SETTLING)
-            whole, _ = started.wait_for_whole(SETTLING)
+            whole = started.whole()
             processes = started.processes()
             self.figures.append(
                 Figures(
                     content_ms=content * 1e3,
                     content_processor_ms=processor * 1e3,
-                    whole_ms=whole * 1e3,
+                    whole_ms=whole and whole * 1e3,
                     rest_processor_ms=processor_seconds(processes) * 1e3,
                     memory_mb=memory_bytes(processes) / 1e6,
                 )
@@ -145,10 +146,10 @@ class Started:
         seconds, processor = self._line(1, patience)
         return float(seconds), float(processor)
 
-    def wait_for_whole(self, patience: float) -> tuple[float, float]:
-        """The same for nearly all of the content."""
-        seconds, processor = self._line(2, patience)
-        return float(seconds), float(processor)
+    def whole(self) -> float | None:
+        """Seconds from the start until nearly all of the content stood there, if it has."""
+        lines = self._lines()
+        return float(lines[2][0]) if len(lines) > 2 else None
 
     def processes(self) -> list[int]:
         return started_by(self._probe.pid)
@@ -160,11 +161,15 @@ class Started:
         """A line that the probe prints, among what the program itself does."""
 
         def printed() -> list[str]:
-            lines = self._probe.output.read_text(errors="replace").splitlines(keepends=True)
-            mine = [line for line in lines if line.startswith("probe: ") and line.endswith("\n")]
-            return mine[number].split()[1:] if len(mine) > number else []
+            lines = self._lines()
+            return lines[number] if len(lines) > number else []
 
         return wait_until(printed, "the program starts and shows its content", patience)
+
+    def _lines(self) -> list[list[str]]:
+        lines = self._probe.output.read_text(errors="replace").splitlines(keepends=True)
+        mine = [line for line in lines if line.startswith("probe: ") and line.endswith("\n")]
+        return [line.split()[1:] for line in mine]
 
 
 def wait_for_rest(process: int) -> None:
@@ -212,7 +217,7 @@ def measure_start(program: Path, against: Sequence[Sequence[str]], runs: int) ->
 @dataclass(frozen=True)
 class Quantity:
     name: str
-    of: Callable[[Figures], float]
+    of: Callable[[Figures], float | None]
     unit: str
     targets: Mapping[str, str] = field(default_factory=dict)
     """By what the subject is compared with; "" for every other program."""
@@ -241,6 +246,7 @@ def paired_rows(
         paired_row(quantity, subject, limit, quantity.targets.get(kind, ""))
         for quantity in QUANTITIES
         for subject, limit, kind in pairs
+        if None not in map(quantity.of, subject.figures + limit.figures)
     ]
 
 
