@@ -25,6 +25,8 @@ namespace {
 
 constexpr std::uint32_t colour = 0xffffff;
 constexpr auto patience = std::chrono::minutes(5);
+/// At the command, where nothing is drawn.
+constexpr auto untilNextLook = std::chrono::milliseconds(200);
 /// Of a hundred.
 constexpr size_t half = 50;
 constexpr size_t nearlyAll = 98;
@@ -85,6 +87,13 @@ pid_t start(char* command[])
     return child;
 }
 
+bool hasEnded(pid_t process)
+{
+    siginfo_t end{};
+    return waitid(P_PID, static_cast<id_t>(process), &end, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+           end.si_pid == process;
+}
+
 double processorSeconds(pid_t process)
 {
     clockid_t clock = 0;
@@ -110,10 +119,11 @@ int main(int argc, char* argv[])
     std::printf("probe: %d\n", process);
     std::fflush(stdout);
     std::queue<size_t> shares({half, nearlyAll});
-    while (!shares.empty()) {
-        const auto drawn = screen.nextDamage(begin + patience);
+    while (!shares.empty() && !hasEnded(process) &&
+           WatchedScreen::Clock::now() < begin + patience) {
+        const auto drawn = screen.nextDamage(WatchedScreen::Clock::now() + untilNextLook);
         if (!drawn) {
-            break;
+            continue;
         }
         const double processor = processorSeconds(process);
         const size_t standing = outlines.standingIn(screen.pixels());
