@@ -25,6 +25,8 @@ namespace {
 
 constexpr std::uint32_t colour = 0xffffff;
 constexpr auto patience = std::chrono::minutes(5);
+/// For which the window of a start before may stay.
+constexpr auto cleared = std::chrono::seconds(5);
 /// At the command, where nothing is drawn.
 constexpr auto untilNextLook = std::chrono::milliseconds(200);
 /// Of a hundred.
@@ -76,6 +78,17 @@ std::vector<std::uint32_t> readPicture(const char* path, size_t size)
     return pixels;
 }
 
+void waitUntilGone(const Outlines& outlines, WatchedScreen& screen)
+{
+    const auto end = WatchedScreen::Clock::now() + cleared;
+    while (outlines.standingIn(screen.pixels()) >= half) {
+        if (!screen.nextDamage(end)) {
+            std::fprintf(stderr, "The content stands there before the start.\n");
+            std::exit(EXIT_FAILURE);
+        }
+    }
+}
+
 pid_t start(char* command[])
 {
     const pid_t child = fork();
@@ -113,6 +126,7 @@ int main(int argc, char* argv[])
     }
     WatchedScreen screen;
     const Outlines outlines(readPicture(argv[1], screen.pixels().size()));
+    waitUntilGone(outlines, screen);
 
     const auto begin = WatchedScreen::Clock::now();
     const pid_t process = start(argv + 2);
