@@ -10,6 +10,7 @@
 #include "FontConfiguration.h"
 #include "FontFamilies.h"
 #include "FontPages.h"
+#include "GarbageBetweenFrames.h"
 #include "LetterPictures.h"
 #include "LetterWidths.h"
 #include "NetworkSiteClient.h"
@@ -181,10 +182,11 @@ int runProgram(int argc, char* argv[], const QString& siteOrigin, const QString&
                                           {u"height"_qs, size.height()},
                                           {u"reducedMotion"_qs, appearance.reducedMotion()},
                                           {u"readAloud"_qs, screenReader.present()}}));
-    auto* const window = qobject_cast<QWindow*>(root.get());
+    auto* const window = qobject_cast<QQuickWindow*>(root.get());
     if (!window) {
         qFatal("The window cannot be made: %s", qUtf8Printable(view.errorString()));
     }
+    GarbageBetweenFrames::collect(*window, engine);
     QObject::connect(&appearance, &AppearancePortal::reducedMotionChanged, window,
                      [window](bool reduced) { window->setProperty("reducedMotion", reduced); });
     QObject::connect(&screenReader, &ScreenReaderStatus::presentChanged, window,
