@@ -14,6 +14,7 @@ from desktop_test import (
     workspace_when,
 )
 from polling import wait_until
+from program import Program
 
 KEEP = "收下并持续更新："
 STOP_KEEPING = "从工作台移除并停止更新："
@@ -25,16 +26,19 @@ RECEIPT = "已收下；后续实质变化会续到同一条脉络。"
 UNDONE = "已撤销上一步操作。"
 
 
+def titles_in(program: Program) -> list[str]:
+    names = [element.name for element in program.elements()]
+    return [name.removeprefix(OPEN_THREAD) for name in names if name.startswith(OPEN_THREAD)]
+
+
 class FirstDayTest(DesktopTest):
     def test_the_page_shows_the_compiled_in_edition(self):
         with self.world() as world:
             program = world.start(PROGRAM)
             program.wait_for("今天先看 3 条", "heading")
             program.wait_for(LEAD)
-            names = [e.name for e in program.elements() if e.name.startswith(OPEN_THREAD)]
-            titles = [name.removeprefix(OPEN_THREAD) for name in names]
-            self.assertEqual(22, len(titles))
-            self.assertEqual(set(seed_signals_by_title()), set(titles))
+            program.wait_until(lambda: len(titles_in(program)) == 22, "every signal stands there")
+            self.assertEqual(set(seed_signals_by_title()), set(titles_in(program)))
             self.assertFalse(workspace_file(world.data_home).exists())
             self.assertEqual(0, program.close())
 

@@ -2,7 +2,7 @@
 """What the window does under each desktop's own window manager."""
 
 from collections.abc import Iterator, Sequence
-from contextlib import contextmanager
+from contextlib import contextmanager, suppress
 
 from commands import answer_of
 from desktop_test import PROGRAM
@@ -63,8 +63,18 @@ class WindowManagerTest:
                 moved = [way[axis] if side[axis] < 0 else 0 for axis in (0, 1)]
                 grown = [way[axis] * side[axis] for axis in (0, 1)]
                 wanted = (x + moved[0], y + moved[1], width + grown[0], height + grown[1])
-                program.drag(grip(side, width, height), way, lambda: is_at(program, wanted))
-                self.wait_for_place(program, wanted)
+                program.wait_until(
+                    lambda: self._is_dragged_to(program, side, wanted), f"the window is at {wanted}")
+
+    def _is_dragged_to(self, program: Program, side: tuple[int, int], wanted: Place) -> bool:
+        """Drags by what is missing: a busy desktop may have felt only the end of a drag."""
+        place = place_of(program)
+        missing = [goal - length for length, goal in zip(place, wanted)]
+        way = tuple(missing[axis if side[axis] < 0 else axis + 2] for axis in (0, 1))
+        program.drag(grip(side, *place[2:]), way, lambda: is_at(program, wanted))
+        with suppress(TimeoutError):
+            wait_until(lambda: is_at(program, wanted), "it stands there", FELT)
+        return is_at(program, wanted)
 
     @contextmanager
     def placed_program(
