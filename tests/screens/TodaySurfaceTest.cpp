@@ -202,21 +202,41 @@ private Q_SLOTS:
 
     void theRemainingCardsUnfold()
     {
+        window().resize(QSize(1120, 1700));
         window().window()->setProperty("reducedMotion", false);
-        auto* const surface = find(u"今天先看 3 条"_qs, QAccessible::LayeredPane)->parentItem();
         ScreenReader::press(find(disclosure, QAccessible::Button));
-        QCOMPARE(surface->property("unfolded").toReal(), 0.0);
+        QCOMPARE(surface()->property("unfolded").toReal(), 0.0);
         auto* const card = window().awaited(u"Title of d"_qs, QAccessible::ListItem);
         QVERIFY(card);
         const auto* const row = rowAround(card);
-        const auto unfolded = surface->property("unfolded").toReal();
+        const auto unfolded = surface()->property("unfolded").toReal();
         QCOMPARE(row->opacity(), unfolded);
         QCOMPARE(row->implicitHeight(), row->childItems().constFirst()->height() * unfolded);
-        QTRY_COMPARE(surface->property("unfolded").toReal(), 1.0);
+        QTRY_COMPARE(surface()->property("unfolded").toReal(), 1.0);
 
         ScreenReader::press(find(disclosure, QAccessible::Button));
         QVERIFY(find(u"Title of d"_qs, QAccessible::ListItem));
         QTRY_VERIFY(!find(u"Title of d"_qs, QAccessible::ListItem));
+    }
+
+    void asManyTakeTheirHeightAsAreSeen_data()
+    {
+        QTest::addColumn<int>("height");
+        QTest::addColumn<int>("count");
+
+        QTest::newRow("at the lower edge") << 560 << 0;
+        QTest::newRow("above room for one and a half") << 1700 << 2;
+    }
+
+    void asManyTakeTheirHeightAsAreSeen()
+    {
+        QFETCH(int, height);
+        window().resize(QSize(1120, height));
+        focus(disclosure, QAccessible::Button);
+
+        ScreenReader::press(find(disclosure, QAccessible::Button));
+
+        QTEST(surface()->property("foldingCards").toInt(), "count");
     }
 
     // It was folded again once its card had been out of reach.
@@ -329,6 +349,11 @@ private Q_SLOTS:
 
 private:
     const QString disclosure = u"其余 3 条已替你排好，需要时再展开，不会丢失。"_qs;
+
+    QQuickItem* surface()
+    {
+        return find(u"今天先看 3 条"_qs, QAccessible::LayeredPane)->parentItem();
+    }
 
     /// The list's row that the item is in.
     static const QQuickItem* rowAround(const QQuickItem* item)

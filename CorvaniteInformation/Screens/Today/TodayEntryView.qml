@@ -18,17 +18,15 @@ PaneRow {
     required property bool open
     /// How far they are open, from 0 to 1.
     required property real unfolded
-
-    /// The cards from there on lie below what can be seen, and keep their height: rows without one
-    /// would all be made at once.
-    readonly property int farthestFolding: 6
+    /// How many of the remaining cards take and lose their height meanwhile.
+    required property int foldingCards
 
     signal remainingToggled
     signal similarReduced(signalId: string)
     signal railLineFocused(position: int)
     signal railStepped(by: int)
 
-    implicitHeight: face.height * (row.folds && row.position < farthestFolding ? unfolded : 1)
+    implicitHeight: face.height * (row.folds && row.position < foldingCards ? unfolded : 1)
     opacity: row.folds ? unfolded : 1
     clip: opacity < 1
 

@@ -21,6 +21,9 @@ FocusScope {
     /// The reader wants the remaining cards; they unfold and fold.
     property bool open: false
     property real unfolded: open ? 1 : 0
+    /// Those that are seen then. The others keep their height: rows without one would all be made at
+    /// once.
+    property int foldingCards: 0
 
     Behavior on unfolded {
         NumberAnimation {
@@ -79,7 +82,12 @@ FocusScope {
             railStop: surface.railStop
             open: surface.open
             unfolded: surface.unfolded
-            onRemainingToggled: surface.open = !surface.open
+            foldingCards: surface.foldingCards
+            onRemainingToggled: {
+                // With a line of each of its texts a card is higher than 240.
+                surface.foldingCards = Math.ceil((column.contentY + column.height - y - height) / 240);
+                surface.open = !surface.open;
+            }
             onSimilarReduced: signalId => column.removeRow(index, () => surface.workbench.reduceSimilar(signalId))
             onRailLineFocused: position => surface.railLine = position
             onRailStepped: by => column.focusRow(index + by)
