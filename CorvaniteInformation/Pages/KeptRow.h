@@ -9,6 +9,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <utility>
+
 /// One row of the kept surface: a kept signal or something the reader handed in.
 struct KeptRow
 {
@@ -39,7 +41,7 @@ public:
     /// are shown alone.
     QString address() const;
 
-    QString key() const { return (custom ? u"source:"_qs : u"signal:"_qs) + itemId; }
+    std::pair<bool, QString> key() const { return {custom, itemId}; }
 
     friend bool operator==(const KeptRow&, const KeptRow&) = default;
 };

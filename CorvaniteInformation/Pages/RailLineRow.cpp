@@ -30,10 +30,27 @@ RailLineRow RailLineRow::from(const InformationSignal& signal, bool seen, int po
     RailLineRow row;
     row.signalId = signal.id;
     row.position = position;
-    row.number = runningNumber(position + 1);
-    row.title = withWholeWords(signal.title);
-    row.badge = seen ? u"已看过"_qs : u"新"_qs;
+    row.signalTitle = signal.title;
     row.seen = seen;
-    row.name = u"打开脉络："_qs + signal.title;
     return row;
+}
+
+QString RailLineRow::number() const
+{
+    return runningNumber(position + 1);
+}
+
+QString RailLineRow::title() const
+{
+    return withWholeWords(signalTitle);
+}
+
+QString RailLineRow::badge() const
+{
+    return seen ? u"已看过"_qs : u"新"_qs;
+}
+
+QString RailLineRow::name() const
+{
+    return u"打开脉络："_qs + signalTitle;
 }

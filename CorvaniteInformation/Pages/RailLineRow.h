@@ -16,11 +16,11 @@ struct RailLineRow
 
     Q_PROPERTY(QString signalId MEMBER signalId CONSTANT FINAL)
     Q_PROPERTY(int position MEMBER position CONSTANT FINAL)
-    Q_PROPERTY(QString number MEMBER number CONSTANT FINAL)
-    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
-    Q_PROPERTY(QString badge MEMBER badge CONSTANT FINAL)
     Q_PROPERTY(bool seen MEMBER seen CONSTANT FINAL)
-    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    Q_PROPERTY(QString number READ number CONSTANT FINAL)
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(QString badge READ badge CONSTANT FINAL)
+    Q_PROPERTY(QString name READ name CONSTANT FINAL)
 
 public:
     /// @param position the line's place in the list, from 0
@@ -28,15 +28,17 @@ public:
 
     QString signalId;
     int position = 0;
-    /// The running number from 01.
-    QString number;
-    QString title;
-    QString badge;
+    QString signalTitle;
     bool seen = false;
-    /// For a screen reader.
-    QString name;
 
-    const QString& key() const { return signalId; }
+    // Texts are made for the lines that are shown alone.
+
+    /// The running number from 01.
+    QString number() const;
+    QString title() const;
+    QString badge() const;
+    /// For a screen reader.
+    QString name() const;
 
     friend bool operator==(const RailLineRow&, const RailLineRow&) = default;
 };

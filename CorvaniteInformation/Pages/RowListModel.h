@@ -8,6 +8,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 /// Rows of one kind. A row is known by its `key()`: `setRows` tells the view which rows came, went,
@@ -52,7 +53,7 @@ public:
         KeyCounts waiting = countKeys(m_rows);
         // From here on, every row before `position` is the wanted one.
         for (qsizetype position = 0; position < rows.size();) {
-            const QString key = rows.at(position).key();
+            const Key key = rows.at(position).key();
             if (waiting.value(key) == 0) {
                 position = insertRun(rows, position, waiting);
                 continue;
@@ -65,7 +66,8 @@ public:
     }
 
 private:
-    using KeyCounts = QHash<QString, qsizetype>;
+    using Key = std::remove_cvref_t<std::invoke_result_t<decltype(&Row::key), const Row&>>;
+    using KeyCounts = QHash<Key, qsizetype>;
 
     static KeyCounts countKeys(const QList<Row>& rows)
     {
@@ -116,7 +118,7 @@ private:
         return end;
     }
 
-    void moveHere(const QString& key, qsizetype position)
+    void moveHere(const Key& key, qsizetype position)
     {
         qsizetype from = position;
         while (m_rows.at(from).key() != key) {

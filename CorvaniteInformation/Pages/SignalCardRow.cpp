@@ -34,16 +34,17 @@ QString reachabilityTag(OriginalReachability reachability)
     Q_UNREACHABLE();
 }
 
-QString timeLabel(const InformationSignal& signal, double now)
+QString timeLabel(const InformationSignal& signal, const std::optional<QString>& relativeLabel)
 {
-    return signal.relativeObservedLabel(now).value_or(
-        WorkbenchDateLabels::label(signal.observedAt) + u"核验"_qs);
+    return relativeLabel ? *relativeLabel
+                         : WorkbenchDateLabels::label(signal.observedAt) + u"核验"_qs;
 }
 
 QString sourceLine(const InformationSignal& signal)
 {
     return signal.source + u" · "_qs +
-           signal.publishedAt.value_or(WorkbenchDateLabels::label(signal.observedAt) + u"观察"_qs);
+           (signal.publishedAt ? *signal.publishedAt
+                               : WorkbenchDateLabels::label(signal.observedAt) + u"观察"_qs);
 }
 
 QString description(const SignalCardRow& row)
@@ -62,7 +63,8 @@ QString description(const SignalCardRow& row)
 
 } // namespace
 
-SignalCardRow SignalCardRow::from(const InformationSignal& signal, Standing standing, double now)
+SignalCardRow SignalCardRow::from(const InformationSignal& signal, Standing standing,
+                                  const std::optional<QString>& relativeLabel)
 {
     const auto reachability = signal.originalReachability();
     const auto alternate = signal.reachableAlternate();
@@ -73,7 +75,7 @@ SignalCardRow SignalCardRow::from(const InformationSignal& signal, Standing stan
     row.kindTag = ::kindTag(signal.kind);
     row.isUpdate = signal.kind == InformationSignalKind::Update;
     row.laneName = displayName(signal.lane);
-    row.timeLabel = ::timeLabel(signal, now);
+    row.timeLabel = ::timeLabel(signal, relativeLabel);
     row.seen = standing.seen;
     row.reachabilityTag = ::reachabilityTag(reachability);
     row.blocked = reachability == OriginalReachability::Blocked;

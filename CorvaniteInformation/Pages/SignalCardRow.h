@@ -9,6 +9,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <optional>
+
 /// What one card of today's lists shows, in finished texts.
 struct SignalCardRow
 {
@@ -48,10 +50,13 @@ public:
         bool seen = false;
         /// What changed is unfolded.
         bool changeOpen = false;
+
+        friend bool operator==(const Standing&, const Standing&) = default;
     };
 
-    /// @param now seconds since 1970-01-01T00:00:00Z
-    static SignalCardRow from(const InformationSignal& signal, Standing standing, double now);
+    /// @param relativeLabel the signal's `relativeObservedLabel`
+    static SignalCardRow from(const InformationSignal& signal, Standing standing,
+                              const std::optional<QString>& relativeLabel);
 
     QString signalId;
     QColor laneColor;
@@ -82,8 +87,6 @@ public:
     QString reduceName;
     /// The card's state, its why and its limit for a screen reader, a line each.
     QString description;
-
-    const QString& key() const { return signalId; }
 
     friend bool operator==(const SignalCardRow&, const SignalCardRow&) = default;
 };

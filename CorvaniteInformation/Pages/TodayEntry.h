@@ -9,6 +9,10 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <optional>
+#include <utility>
+#include <variant>
+
 /// One place of the today surface's column, or of the list of everything.
 struct TodayEntry
 {
@@ -21,12 +25,22 @@ struct TodayEntry
     Q_PROPERTY(bool isRailHeading READ isRailHeading CONSTANT FINAL)
     Q_PROPERTY(bool isRailLine READ isRailLine CONSTANT FINAL)
     Q_PROPERTY(bool isOfRail READ isOfRail CONSTANT FINAL)
-    Q_PROPERTY(SignalCardRow card MEMBER card CONSTANT FINAL)
-    Q_PROPERTY(RailLineRow rail MEMBER rail CONSTANT FINAL)
+    Q_PROPERTY(SignalCardRow card READ card CONSTANT FINAL)
+    Q_PROPERTY(RailLineRow rail READ rail CONSTANT FINAL)
     Q_PROPERTY(bool folds MEMBER folds CONSTANT FINAL)
     Q_PROPERTY(int position MEMBER position CONSTANT FINAL)
 
 public:
+    /// What the row of a card is made from.
+    struct Card
+    {
+        InformationSignal signal;
+        SignalCardRow::Standing standing;
+        std::optional<QString> relativeLabel;
+
+        friend bool operator==(const Card&, const Card&) = default;
+    };
+
     enum class Kind {
         /// Title, lead, lane filter, and what there is to say about an adjusted or empty list.
         Intro,
@@ -38,10 +52,8 @@ public:
     };
 
     Kind kind = Kind::Intro;
-    /// With `Kind::Card`.
-    SignalCardRow card;
-    /// With `Kind::RailLine`.
-    RailLineRow rail;
+    /// With `Kind::Card` and `Kind::RailLine`.
+    std::variant<std::monostate, Card, RailLineRow> content;
     /// The disclosure opens and closes it.
     bool folds = false;
     /// Of a card, from 0: among those that always show, or among those that fold.
@@ -54,10 +66,11 @@ public:
     bool isRailLine() const { return kind == Kind::RailLine; }
     bool isOfRail() const { return isRailHeading() || isRailLine(); }
 
-    QString key() const
-    {
-        return QChar(u'0' + static_cast<int>(kind)) + card.signalId + rail.signalId;
-    }
+    /// Made when it is asked for: of hundreds of cards a screen shows a few.
+    SignalCardRow card() const;
+    RailLineRow rail() const;
+
+    std::pair<int, QString> key() const;
 
     friend bool operator==(const TodayEntry&, const TodayEntry&) = default;
 };

@@ -8,6 +8,8 @@
 
 #include <QSet>
 
+#include <utility>
+
 namespace {
 
 QList<LabelledTextRow> dataReceipt(qsizetype shown, qsizetype focused)
@@ -56,13 +58,13 @@ QList<TodayEntry> cards(const InformationModel& workbench, const QList<Informati
     for (int position = 0; const auto& signal : signals) {
         TodayEntry entry = entryOf(TodayEntry::Kind::Card);
         entry.position = position++;
-        entry.card =
-            SignalCardRow::from(signal,
-                                {.kept = workbench.isKept(signal),
-                                 .seen = standings.seenTargets.contains(signal.followTarget.id),
-                                 .changeOpen = standings.openChanges.contains(signal.id)},
-                                workbench.now());
-        cards.append(entry);
+        entry.content = TodayEntry::Card{
+            .signal = signal,
+            .standing = {.kept = workbench.isKept(signal),
+                         .seen = standings.seenTargets.contains(signal.followTarget.id),
+                         .changeOpen = standings.openChanges.contains(signal.id)},
+            .relativeLabel = signal.relativeObservedLabel(workbench.now())};
+        cards.append(std::move(entry));
     }
     return cards;
 }
@@ -81,9 +83,9 @@ QList<TodayEntry> rail(const QList<InformationSignal>& signals, const QSet<QStri
     rail.reserve(signals.size() + 1);
     for (int position = 0; const auto& signal : signals) {
         TodayEntry line = entryOf(TodayEntry::Kind::RailLine);
-        line.rail =
+        line.content =
             RailLineRow::from(signal, seenTargets.contains(signal.followTarget.id), position++);
-        rail.append(line);
+        rail.append(std::move(line));
     }
     return rail;
 }

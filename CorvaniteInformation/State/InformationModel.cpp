@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 InformationModel::InformationModel(Collaborators collaborators, InformationContent content,
@@ -83,10 +84,13 @@ qsizetype InformationModel::laneCount(InformationLane lane) const
 
 QList<InformationSignal> InformationModel::laneFilteredSignals() const
 {
-    auto filtered = visibleSignals();
-    if (const auto lane = activeLane()) {
-        filtered.removeIf([lane](const InformationSignal& signal) { return signal.lane != lane; });
+    const auto lane = activeLane();
+    if (!lane) {
+        return visibleSignals();
     }
+    QList<InformationSignal> filtered;
+    std::ranges::copy_if(visibleSignals(), std::back_inserter(filtered),
+                         [lane](const InformationSignal& signal) { return signal.lane == lane; });
     return filtered;
 }
 

@@ -27,7 +27,7 @@ private Q_SLOTS:
 
         const auto row = RailLineRow::from(sampleSignal(u"a"_qs), false, position);
 
-        QTEST(row.number, "number");
+        QTEST(row.number(), "number");
         QTEST(row.position, "position");
     }
 
@@ -35,8 +35,8 @@ private Q_SLOTS:
     {
         const auto signal = sampleSignal(u"a"_qs);
 
-        QCOMPARE(RailLineRow::from(signal, false, 0).badge, u"新"_qs);
-        QCOMPARE(RailLineRow::from(signal, true, 0).badge, u"已看过"_qs);
+        QCOMPARE(RailLineRow::from(signal, false, 0).badge(), u"新"_qs);
+        QCOMPARE(RailLineRow::from(signal, true, 0).badge(), u"已看过"_qs);
         QVERIFY(RailLineRow::from(signal, true, 0).seen);
     }
 
@@ -61,17 +61,17 @@ private Q_SLOTS:
 
         const auto row = RailLineRow::from(signal, false, 0);
 
-        QTEST(row.title, "shown");
-        QCOMPARE(row.name, u"打开脉络："_qs + title);
+        QTEST(row.title(), "shown");
+        QCOMPARE(row.name(), u"打开脉络："_qs + title);
     }
 
     void namesWhatItOpens()
     {
         const auto row = RailLineRow::from(sampleSignal(u"a"_qs), false, 0);
 
-        QCOMPARE(row.key(), u"a"_qs);
-        QCOMPARE(row.title, u"Title of a"_qs);
-        QCOMPARE(row.name, u"打开脉络：Title of a"_qs);
+        QCOMPARE(row.signalId, u"a"_qs);
+        QCOMPARE(row.title(), u"Title of a"_qs);
+        QCOMPARE(row.name(), u"打开脉络：Title of a"_qs);
     }
 };
 

@@ -20,7 +20,7 @@ QStringList wordsOf(const RowListModel<TodayEntry>& entries)
             words.append(u"intro"_qs);
             break;
         case TodayEntry::Kind::Card:
-            words.append(entry.card.signalId);
+            words.append(entry.card().signalId);
             break;
         case TodayEntry::Kind::Disclosure:
             words.append(u"more"_qs);
@@ -29,7 +29,7 @@ QStringList wordsOf(const RowListModel<TodayEntry>& entries)
             words.append(u"rail"_qs);
             break;
         case TodayEntry::Kind::RailLine:
-            words.append(entry.rail.number + entry.rail.signalId);
+            words.append(entry.rail().number() + entry.rail().signalId);
             break;
         }
     }
@@ -227,8 +227,8 @@ private Q_SLOTS:
         const auto unfolded = [&page] {
             QStringList ids;
             for (const auto& entry : page.entries()->rows()) {
-                if (entry.card.changeOpen) {
-                    ids.append(entry.card.signalId);
+                if (entry.card().changeOpen) {
+                    ids.append(entry.card().signalId);
                 }
             }
             return ids;
@@ -285,7 +285,7 @@ private Q_SLOTS:
 
         page.model->toggleKeep(u"b"_qs);
 
-        QVERIFY(page->entries()->rows().at(2).card.kept);
+        QVERIFY(page->entries()->rows().at(2).card().kept);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(changed.first().first().toModelIndex().row(), 2);
         QVERIFY(inserted.isEmpty());
@@ -297,13 +297,13 @@ private Q_SLOTS:
     void whatIsSeenIsMarkedOnCardAndLine()
     {
         ShownPage<TodayPage> page;
-        QCOMPARE(page->railEntries()->rows().at(1).rail.badge, u"新"_qs);
+        QCOMPARE(page->railEntries()->rows().at(1).rail().badge(), u"新"_qs);
 
         page.model->markSeen(u"a"_qs);
 
-        QVERIFY(page->entries()->rows().at(1).card.seen);
-        QCOMPARE(page->railEntries()->rows().at(1).rail.badge, u"已看过"_qs);
-        QCOMPARE(page->railEntries()->rows().at(2).rail.badge, u"新"_qs);
+        QVERIFY(page->entries()->rows().at(1).card().seen);
+        QCOMPARE(page->railEntries()->rows().at(1).rail().badge(), u"已看过"_qs);
+        QCOMPARE(page->railEntries()->rows().at(2).rail().badge(), u"新"_qs);
     }
 
     void followsASync()
@@ -321,13 +321,13 @@ private Q_SLOTS:
         SampleModel sample;
         sample.now = 1788220800 + 3600;
         ShownPage<TodayPage> page(std::move(sample));
-        QCOMPARE(page->entries()->rows().at(1).card.timeLabel, u"1 小时前核验"_qs);
+        QCOMPARE(page->entries()->rows().at(1).card().timeLabel, u"1 小时前核验"_qs);
 
         page.sample.now += 3600;
-        QCOMPARE(page->entries()->rows().at(1).card.timeLabel, u"1 小时前核验"_qs);
+        QCOMPARE(page->entries()->rows().at(1).card().timeLabel, u"1 小时前核验"_qs);
 
         page->refresh();
-        QCOMPARE(page->entries()->rows().at(1).card.timeLabel, u"2 小时前核验"_qs);
+        QCOMPARE(page->entries()->rows().at(1).card().timeLabel, u"2 小时前核验"_qs);
     }
 
     // It told the hour at which it was left.
@@ -341,7 +341,7 @@ private Q_SLOTS:
         page.sample.now += 3600;
         page->setShown(true);
 
-        QCOMPARE(page->entries()->rows().at(1).card.timeLabel, u"2 小时前核验"_qs);
+        QCOMPARE(page->entries()->rows().at(1).card().timeLabel, u"2 小时前核验"_qs);
     }
 
     // A pack stamped in whole seconds shows the day's own focus, while the rest is what the

@@ -206,7 +206,8 @@ private:
     {
         const auto first = model().focusedSignals().value(0);
         auto* const card = m_program->window().find(first.title, QAccessible::ListItem);
-        const auto age = SignalCardRow::from(first, {}, m_program->now()).timeLabel;
+        const auto age =
+            SignalCardRow::from(first, {}, first.relativeObservedLabel(m_program->now())).timeLabel;
         m_rules.require(card && ScreenReader::description(card).contains(age),
                         "a card does not say how long ago it was checked");
     }
