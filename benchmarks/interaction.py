@@ -37,12 +37,13 @@ SCROLLING = SURFACES[:4]
 SCROLLING_SECONDS = 2.0
 VISITS = 10
 LETTERS = 3
+REST = "其余 "
 MOST_TABS = 60
 
 FRAME_MS = 1000 / 60
 KEY_MS = 16.0
 FIRST_VISIT_MS = 50.0
-SAVING = {"keep", "undo", "a note letter"}
+SAVING = {"keep", "undo", "keep beside the rest", "undo beside the rest", "a note letter"}
 
 
 class Window:
@@ -131,6 +132,8 @@ class Tabs:
     start_to_lanes: int
     lanes_to_card: int
     card_to_keeping: int
+    keeping_to_rest: int
+    """To what unfolds the rest of today."""
     thread_to_note: int
     """Of a kept card."""
 
@@ -142,11 +145,12 @@ def find_tabs(desk: Desk, program: Path) -> Tabs:
     lanes = tabs_to(started, "radio button", "全部")
     card = tabs_to(started, "list item", "")
     keeping = tabs_to(started, "push button", "收下并持续更新：")
-    started.press_keys("Return", *["shift+Tab"] * keeping, "Return")
+    rest = tabs_to(started, "push button", REST)
+    started.press_keys(*["shift+Tab"] * rest, "Return", *["shift+Tab"] * keeping, "Return")
     started.wait_for("信息脉络")
     note = tabs_to(started, "text", "自己的备注")
     started.process.stop()
-    return Tabs(lanes, card, keeping, note)
+    return Tabs(lanes, card, keeping, rest, note)
 
 
 def find_rest(desk: Desk, program: Path) -> int:
@@ -154,7 +158,7 @@ def find_rest(desk: Desk, program: Path) -> int:
     started = desk.start(program, fresh_data(desk))
     cover(desk, USUAL)
     started.press_keys("ctrl+1")
-    rest = tabs_to(started, "push button", "其余 ")
+    rest = tabs_to(started, "push button", REST)
     started.process.stop()
     return rest
 
@@ -228,6 +232,17 @@ def press_everything(window: Window, tabs: Tabs, latencies: Mapping[str, list[fl
     window.tab(tabs.lanes_to_card + tabs.card_to_keeping)
     latencies["keep"].append(window.press("Return"))
     latencies["undo"].append(window.press("Control_L+z"))
+
+    window.tab(tabs.keeping_to_rest)
+    latencies["first look at the rest"].append(window.press("Return"))
+    window.go("Return")
+    latencies["later look at the rest"].append(window.press("Return"))
+    window.tab_back(tabs.keeping_to_rest)
+    latencies["keep beside the rest"].append(window.press("Return"))
+    latencies["undo beside the rest"].append(window.press("Control_L+z"))
+    window.tab(tabs.keeping_to_rest)
+    window.go("Return")
+    window.tab_back(tabs.keeping_to_rest)
     window.go("Return")
 
     window.go("Control_L+f")
@@ -246,7 +261,7 @@ def press_everything(window: Window, tabs: Tabs, latencies: Mapping[str, list[fl
 
 
 def key_row(subject: str, action: str, latency: float, save: float) -> Row:
-    if action.startswith("first visit"):
+    if action.startswith("first "):
         return compared(subject, latency, FIRST_VISIT_MS, "ms", "a moment", "at most 1")
     if action in SAVING:
         limit = "a frame and the save's own writing"
