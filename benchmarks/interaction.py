@@ -226,17 +226,18 @@ def press_everything(window: Window, tabs: Tabs, latencies: Mapping[str, list[fl
     window.go("Control_L+1")
     for _ in range(tabs.start_to_lanes):
         latencies["Tab"].append(window.press("Tab"))
-    for key in ("Right", "Left"):
-        latencies["lane filter"].append(window.press(key))
+    for look in ("first", "later"):
+        for key in ("Right", "Left"):
+            latencies[f"lane filter, {look} look"].append(window.press(key))
 
     window.tab(tabs.lanes_to_card + tabs.card_to_keeping)
     latencies["keep"].append(window.press("Return"))
     latencies["undo"].append(window.press("Control_L+z"))
 
     window.tab(tabs.keeping_to_rest)
-    latencies["first look at the rest"].append(window.press("Return"))
+    latencies["the rest, first look"].append(window.press("Return"))
     window.go("Return")
-    latencies["later look at the rest"].append(window.press("Return"))
+    latencies["the rest, later look"].append(window.press("Return"))
     window.tab_back(tabs.keeping_to_rest)
     latencies["keep beside the rest"].append(window.press("Return"))
     latencies["undo beside the rest"].append(window.press("Control_L+z"))
@@ -261,7 +262,7 @@ def press_everything(window: Window, tabs: Tabs, latencies: Mapping[str, list[fl
 
 
 def key_row(subject: str, action: str, latency: float, save: float) -> Row:
-    if action.startswith("first "):
+    if action.startswith("first visit"):
         return compared(subject, latency, FIRST_VISIT_MS, "ms", "a moment", "at most 1")
     if action in SAVING:
         limit = "a frame and the save's own writing"
